@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+
+namespace tessarine {
+
+// A 0-based byte position in the ROM file. Signed, like every long of the system.
+using RomOffset = std::int32_t;
+
+// A pointer as game data stores it: the ROM offset plus the cartridge's base address.
+inline constexpr std::int32_t kGbaRomBase = 0x08000000;
+
+// pointer - 0x08000000 and offset + 0x08000000, in signed 32 bits. No test of the
+// result (a stored 0 gives -0x08000000); a result beyond 32 bits throws Failure.
+RomOffset ToRomOffset(std::int32_t pointer);
+std::int32_t ToGbaPointer(RomOffset offset);
+
+}  // namespace tessarine

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tessarine {
+
+// Every number a person sees or types is text: "&H" and hexadecimal digits, or a
+// decimal number. These five conversions are the only way numbers cross that line.
+//
+// ToHexText: "&H" and upper-case digits, no padding. The width of the value decides how
+// a negative number shows: a word as four digits, a long as eight, two's complement.
+// List rows, tile numbers and other counts are longs.
+std::string ToHexText(std::uint8_t byte);
+std::string ToHexText(std::int16_t word);
+std::string ToHexText(std::int32_t value);
+template <typename T>
+std::string ToHexText(T) = delete;  // no silent widening from other integer types
+
+// Strict parses. Each throws Failure for a text that is no number or a number out of
+// range; `field` names the field in the sentence ("Flag", "Offset").
+std::int32_t ParseOffset(std::string_view text, std::string_view field = {});
+std::int16_t ParseWord(std::string_view text, std::string_view field = {});
+std::uint8_t ParseByte(std::string_view text, std::string_view field = {});
+
+// Never fails: the longest number at the start of the text, 0 where there is none.
+std::int32_t ParseLenient(std::string_view text);
+
+}  // namespace tessarine

@@ -1,0 +1,142 @@
+#include "rom/RomImage.h"
+
+#include <cerrno>
+#include <cstring>
+
+#include "rom/Failure.h"
+#include "rom/HexField.h"
+
+namespace tessarine {
+namespace {
+
+std::string HexPosition(std::int64_t position) {
+  return position <= INT32_MAX ? ToHexText(static_cast<std::int32_t>(position)) : std::to_string(position);
+}
+
+std::string SystemReason(int error) { return error != 0 ? std::strerror(error) : "unknown error"; }
+
+std::FILE* OpenUnbuffered(const std::string& path, const char* mode) {
+  std::FILE* file = std::fopen(path.c_str(), mode);
+  // Unbuffered: every read and write goes straight to the operating system.
+  if (file != nullptr) std::setvbuf(file, nullptr, _IONBF, 0);
+  return file;
+}
+
+}  // namespace
+
+RomImage::~RomImage() { Close(); }
+
+void RomImage::Open(const std::string& path) {
+  Close();
+  readOnly_ = false;
+  file_ = OpenUnbuffered(path, "r+b");
+  if (file_ == nullptr) {
+    const int writeError = errno;
+    file_ = OpenUnbuffered(path, "rb");
+    readOnly_ = file_ != nullptr;
+    if (file_ == nullptr) {
+      throw Failure("Could not open \"" + path + "\": " + SystemReason(writeError) + ".");
+    }
+  }
+  romPath_ = path;
+  position_ = 0;
+}
+
+void RomImage::Close() noexcept {
+  if (file_ != nullptr) std::fclose(file_);
+  file_ = nullptr;
+  readOnly_ = false;
+  romPath_.clear();
+  position_ = 0;
+}
+
+void RomImage::RequireOpen(const char* what) const {
+  if (file_ == nullptr) {
+    throw Failure(std::string("No ROM is open, so nothing was ") + what + ". Open a ROM first.");
+  }
+}
+
+void RomImage::Seek(RomOffset offset) {
+  RequireOpen("read or written");
+  if (offset < 0) {
+    throw Failure("The offset " + ToHexText(offset) +
+                  " lies before the start of the ROM, so nothing was read or written there.");
+  }
+  position_ = offset;
+}
+
+std::int64_t RomImage::Length() const {
+  RequireOpen("measured");
+  if (std::fseek(file_, 0, SEEK_END) != 0) return 0;
+  const long length = std::ftell(file_);
+  return length < 0 ? 0 : length;
+}
+
+Bytes RomImage::ReadBytes(std::size_t count) {
+  RequireOpen("read");
+  Bytes bytes(count);
+  std::size_t got = 0;
+  if (count > 0 && std::fseek(file_, static_cast<long>(position_), SEEK_SET) == 0) {
+    got = std::fread(bytes.data(), 1, count, file_);
+  }
+  std::clearerr(file_);  // the end of the file is no lasting state
+  bytes.resize(got);
+  position_ += static_cast<std::int64_t>(count);
+  return bytes;
+}
+
+std::uint32_t RomImage::ReadLittleEndian(int width) {
+  const Bytes bytes = ReadBytes(static_cast<std::size_t>(width));
+  std::uint32_t value = 0;
+  for (std::size_t i = 0; i < bytes.size(); ++i) value |= std::uint32_t{bytes[i]} << (8 * i);
+  return value;
+}
+
+std::uint8_t RomImage::ReadByte() { return static_cast<std::uint8_t>(ReadLittleEndian(1)); }
+std::int16_t RomImage::ReadWord() { return static_cast<std::int16_t>(ReadLittleEndian(2)); }
+std::int32_t RomImage::ReadLong() { return static_cast<std::int32_t>(ReadLittleEndian(4)); }
+
+void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
+  RequireOpen("written");
+  const std::string where = " at " + HexPosition(position_) + " of \"" + romPath_ + "\"";
+  if (readOnly_) {
+    throw Failure("The ROM is open read-only (the file cannot be written), so nothing was written" + where + ".");
+  }
+  const std::int64_t length = Length();
+  if (position_ > length) {
+    throw Failure("Nothing was written" + where + ": that offset lies past the end of the ROM, which is " +
+                  HexPosition(length) + " bytes long.");
+  }
+  errno = 0;
+  const bool placed = std::fseek(file_, static_cast<long>(position_), SEEK_SET) == 0;
+  const std::size_t put = placed ? std::fwrite(bytes.data(), 1, bytes.size(), file_) : 0;
+  const bool flushed = std::fflush(file_) == 0;
+  const int error = errno;
+  std::clearerr(file_);
+  if (!placed || put != bytes.size() || !flushed) {
+    throw Failure("The system refused to write " + std::to_string(bytes.size()) + " bytes" + where + ": " +
+                  SystemReason(error) + ". The write did not complete.");
+  }
+  position_ += static_cast<std::int64_t>(bytes.size());
+}
+
+void RomImage::WriteLittleEndian(std::uint32_t value, int width) {
+  std::uint8_t bytes[4];
+  for (int i = 0; i < width; ++i) bytes[i] = static_cast<std::uint8_t>(value >> (8 * i));
+  WriteBytes(std::span<const std::uint8_t>(bytes, static_cast<std::size_t>(width)));
+}
+
+void RomImage::WriteByte(std::uint8_t value) { WriteLittleEndian(value, 1); }
+void RomImage::WriteWord(std::int16_t value) { WriteLittleEndian(static_cast<std::uint16_t>(value), 2); }
+void RomImage::WriteLong(std::int32_t value) { WriteLittleEndian(static_cast<std::uint32_t>(value), 4); }
+
+std::uint8_t RomImage::ReadByte(RomOffset offset) { Seek(offset); return ReadByte(); }
+std::int16_t RomImage::ReadWord(RomOffset offset) { Seek(offset); return ReadWord(); }
+std::int32_t RomImage::ReadLong(RomOffset offset) { Seek(offset); return ReadLong(); }
+Bytes RomImage::ReadBytes(RomOffset offset, std::size_t count) { Seek(offset); return ReadBytes(count); }
+void RomImage::WriteByte(RomOffset offset, std::uint8_t value) { Seek(offset); WriteByte(value); }
+void RomImage::WriteWord(RomOffset offset, std::int16_t value) { Seek(offset); WriteWord(value); }
+void RomImage::WriteLong(RomOffset offset, std::int32_t value) { Seek(offset); WriteLong(value); }
+void RomImage::WriteBytes(RomOffset offset, std::span<const std::uint8_t> bytes) { Seek(offset); WriteBytes(bytes); }
+
+}  // namespace tessarine

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <span>
+#include <string>
+
+#include "rom/Bytes.h"
+#include "rom/GbaPointer.h"
+
+namespace tessarine {
+
+// The open ROM file, shared by every tool. One position: each read or write starts
+// there and leaves it behind the last byte touched, so a run of fields is one Seek and
+// then reads in order. Numbers are little-endian; words and longs are signed.
+//
+// Nothing is kept between operations: a write reaches the operating system before the
+// call returns, and the next read, here or through any other handle, sees it.
+//
+// Reads that run past the end deliver no bytes from outside the file: ReadBytes gives
+// the bytes that are there, the number reads count missing bytes as 0. Reads never
+// extend the file. A write may start anywhere up to the end of the file, where it
+// extends it; a write that would start past the end is refused, so no gap is made.
+class RomImage {
+ public:
+  RomImage() = default;
+  ~RomImage();
+  RomImage(const RomImage&) = delete;
+  RomImage& operator=(const RomImage&) = delete;
+
+  // Opens for reading and writing; a file that cannot be written opens read-only.
+  // Throws Failure when it cannot be opened at all. Closes any file open before.
+  void Open(const std::string& path);
+  void Close() noexcept;  // harmless when nothing is open
+
+  bool IsOpen() const { return file_ != nullptr; }
+  bool IsReadOnly() const { return readOnly_; }
+  const std::string& romPath() const { return romPath_; }
+  std::int64_t Position() const { return position_; }
+
+  void Seek(RomOffset offset);
+  std::int64_t Length() const;
+
+  std::uint8_t ReadByte();
+  std::int16_t ReadWord();
+  std::int32_t ReadLong();
+  Bytes ReadBytes(std::size_t count);
+
+  void WriteByte(std::uint8_t value);
+  void WriteWord(std::int16_t value);
+  void WriteLong(std::int32_t value);
+  void WriteBytes(std::span<const std::uint8_t> bytes);
+
+  // Positioned forms: Seek(offset), then the plain operation.
+  std::uint8_t ReadByte(RomOffset offset);
+  std::int16_t ReadWord(RomOffset offset);
+  std::int32_t ReadLong(RomOffset offset);
+  Bytes ReadBytes(RomOffset offset, std::size_t count);
+  void WriteByte(RomOffset offset, std::uint8_t value);
+  void WriteWord(RomOffset offset, std::int16_t value);
+  void WriteLong(RomOffset offset, std::int32_t value);
+  void WriteBytes(RomOffset offset, std::span<const std::uint8_t> bytes);
+
+ private:
+  void RequireOpen(const char* what) const;
+  std::uint32_t ReadLittleEndian(int width);
+  void WriteLittleEndian(std::uint32_t value, int width);
+
+  std::FILE* file_ = nullptr;
+  bool readOnly_ = false;
+  std::string romPath_;
+  std::int64_t position_ = 0;
+};
+
+}  // namespace tessarine
