@@ -147,7 +147,7 @@ constexpr bool AgreesWithDecoding(std::span<const SingleRun> runs) {
 static_assert(AgreesWithDecoding(kOneRuns));
 
 constexpr std::size_t kOneCount = tokenizer::CharacterCount(kOneRuns);
-static_assert(kOneCount == 126);
+static_assert(kOneCount == 126);  // the 128 one-character forms of decoding, less 0x2B and 0x59
 constexpr std::array<Single, kOneCount> kOne = tokenizer::ExpandRuns<kOneCount>(kOneRuns);
 static_assert(tokenizer::IsLookupTable(kOne));
 

@@ -35,8 +35,23 @@ TEST(Braille2TextTest, EncodesBrailleText) {
   for (const auto& c : cases) EXPECT_EQ(ToHex(EncodeBrailleText(c.text)), c.bytes) << c.text;
 }
 
-// Letters, "." and the blank go to their cell and back; the cells where the two directions differ
-// are the ones listed.
+// Each letter, and ".", is the cell of its dots in standard English braille.
+TEST(Braille2TextTest, LettersAreTheirBrailleDots) {
+  const std::string_view dots[] = {
+      "1",   "12", "14",  "145",  "15",   "124",  "1245",  "125",  "24",   // A to I
+      "245", "13", "123", "134",  "1345", "135",  "1234",  "12345", "1235", // J to R
+      "234", "2345", "136", "1236", "2456", "1346", "13456", "1356", "256", // S to Z, "."
+  };
+  constexpr std::uint8_t kWeight[] = {0, 0x01, 0x04, 0x10, 0x02, 0x08, 0x20};  // by dot number
+  Bytes cells;
+  for (const std::string_view cell : dots) {
+    cells.push_back(0);
+    for (const char dot : cell) cells.back() |= kWeight[dot - '0'];
+  }
+  EXPECT_EQ(ToHex(EncodeBrailleText("ABCDEFGHIJKLMNOPQRSTUVWXYZ.")), ToHex(cells));
+}
+
+// Letters, "." and the blank go to their cell and back; the other cells read back as listed.
 TEST(Braille2TextTest, CellsReadBackAndEncodeAgain) {
   int letters = 0;
   for (int cell = 0; cell < 256; ++cell) {
@@ -51,17 +66,21 @@ TEST(Braille2TextTest, CellsReadBackAndEncodeAgain) {
     std::uint8_t cell;
     const char* text;
     const char* encoded;
-  } differences[] = {
+  } others[] = {
       {0x04, ",", "00"},                        // typed as "'"
-      {0x02, "End", "09 00 00"},
+      {0x02, "End", "09 00 00"},                // and the reading stops
       {0xFE, "\r\n", "FE"},
-      {0xFF, "", ""},                           // typed as "[End]"
-      {0x2D, "[&H2D]", "00 00 0D 00 0B 00"},    // typed as "\h2D"
+      {0xFF, "", ""},                           // typed as "[End]"; the reading stops
+      {0x08, "[&H8]", "00 00 0D 00 00"},        // typed as "\h08"
+      {0xFD, "[&HFD]", "00 00 0D 07 0B 00"},
   };
-  for (const auto& d : differences) {
-    EXPECT_EQ(BrailleCellText(d.cell), d.text);
-    EXPECT_EQ(ToHex(EncodeBrailleText(d.text)), d.encoded) << d.text;
+  for (const auto& other : others) {
+    EXPECT_EQ(BrailleCellText(other.cell), other.text);
+    EXPECT_EQ(ToHex(EncodeBrailleText(other.text)), other.encoded) << other.text;
   }
+  EXPECT_TRUE(IsBrailleStop(0x02));
+  EXPECT_TRUE(IsBrailleStop(0xFF));
+  EXPECT_FALSE(IsBrailleStop(0xFE));
 }
 
 }  // namespace

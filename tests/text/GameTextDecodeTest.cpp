@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
-#include <cstdio>
 #include <vector>
 
 #include "HexBytes.h"
@@ -17,41 +17,28 @@ std::string Decode(std::string_view hex, bool japanese = false) {
   return DecodeGameText(FromHex(hex), japanese);
 }
 
-// A table written out the way it is published, by rows of consecutive bytes; every byte outside
-// the rows prints as "&H" and two digits.
+// A table as it is published, by rows of consecutive bytes: each byte of a row decodes to its
+// form, and each of the `unmapped` bytes outside the rows to "&H" and two digits.
 struct Row {
   std::uint8_t first;
   std::vector<const char*> forms;
 };
 
-std::array<std::string, 256> Expected(const std::vector<Row>& rows) {
-  std::array<std::string, 256> expected;
-  for (int b = 0; b < 256; ++b) {
-    char hex[8];
-    std::snprintf(hex, sizeof hex, "&H%02X", b);
-    expected[b] = hex;
-  }
+void ExpectEveryByte(bool japanese, const std::vector<Row>& rows, int unmapped) {
+  std::array<const char*, 256> forms{};
   for (const Row& row : rows) {
-    for (std::size_t i = 0; i < row.forms.size(); ++i) expected[row.first + i] = row.forms[i];
+    for (std::size_t i = 0; i < row.forms.size(); ++i) forms[row.first + i] = row.forms[i];
   }
-  return expected;
-}
-
-int Unmapped(const std::array<std::string, 256>& table) {
-  int count = 0;
-  for (const std::string& form : table) count += form.size() == 4 && form.starts_with("&H");
-  return count;
-}
-
-void ExpectEveryByte(const std::array<std::string, 256>& expected, bool japanese) {
+  ASSERT_EQ(std::ranges::count(forms, nullptr), unmapped);
   for (int b = 0; b < 256; ++b) {
-    const std::uint8_t byte[] = {static_cast<std::uint8_t>(b)};
-    EXPECT_EQ(DecodeGameText(byte, japanese), expected[b]) << "byte " << b << (japanese ? " (Japanese)" : "");
+    const Bytes byte = {static_cast<std::uint8_t>(b)};
+    const std::string expected = forms[b] ? forms[b] : "&H" + test::ToHex(byte);
+    EXPECT_EQ(DecodeGameText(byte, japanese), expected) << "byte " << b;
   }
 }
 
 TEST(GameTextDecodeTest, EveryWesternByte) {
-  const auto expected = Expected({
+  const std::vector<Row> rows = {
       {0x00, {" ", "À", "Á", "Â", "Ç", "È", "É", "Ê", "Ë", "Ì"}},
       {0x0B, {"Î", "Ï", "Ò", "Ó", "Ô", "Œ", "Ù", "Ú", "Û"}},
       {0x15, {"ß", "à", "á"}},
@@ -72,13 +59,12 @@ TEST(GameTextDecodeTest, EveryWesternByte) {
               "n", "o", "p", "q", "r", "s", "t", "u", "v", "w", "x", "y", "z"}},
       {0xEF, {"[>]", ":", "Ä", "Ö", "Ü", "ä", "ö", "ü", "[u]", "[d]", "[l]"}},
       {0xFA, {"\\l", "\\p", "\\c", "\\v", "\\n", "\\x"}},
-  });
-  ASSERT_EQ(Unmapped(expected), 100);
-  ExpectEveryByte(expected, false);
+  };
+  ExpectEveryByte(false, rows, 100);
 }
 
 TEST(GameTextDecodeTest, EveryJapaneseByte) {
-  const auto expected = Expected({
+  const std::vector<Row> rows = {
       {0x00, {" ", "a", "i", "u", "e", "o", "ka", "ki", "ku", "ke", "ko", "sa", "shi", "su", "se", "so",
               "ta", "chi", "tsu", "te", "to", "na", "ni", "nu", "ne", "no", "ha", "hi", "fu", "he", "ho",
               "ma", "mi", "mu", "me", "mo"}},
@@ -98,9 +84,8 @@ TEST(GameTextDecodeTest, EveryJapaneseByte) {
       {0xAC, {"?"}},
       {0xAE, {"-"}},
       {0xFA, {"\\l", "\\p", "\\c", "\\v", "\\n", "\\x"}},
-  });
-  ASSERT_EQ(Unmapped(expected), 98);
-  ExpectEveryByte(expected, true);
+  };
+  ExpectEveryByte(true, rows, 98);
 }
 
 // Runs of bytes: no terminator, and the parameter after 0xFC and 0xFD.

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <map>
 #include <random>
 #include <vector>
@@ -15,26 +16,17 @@ namespace {
 
 using test::ToHex;
 
-std::string PrintedForm(std::uint8_t byte) {
-  const std::uint8_t one[] = {byte};
-  return DecodeGameText(one, false);
-}
-
-// The bytes whose printed form is typed back to them whatever stands around it: a form no other
+// The bytes whose printed form types back to them whatever stands around it: a form no other
 // byte prints, that keeps its brackets (not 0x53 to 0x58), and that takes no parameter (0xFC and
 // 0xFD print the byte after them in hexadecimal).
 std::vector<std::uint8_t> RoundTripBytes() {
-  std::map<std::string, int> printedBy;
-  for (int b = 0; b < 256; ++b) ++printedBy[PrintedForm(static_cast<std::uint8_t>(b))];
+  std::array<std::string, 256> printed;
+  std::map<std::string, int> printers;
+  for (int b = 0; b < 256; ++b) ++printers[printed[b] = DecodeGameText(Bytes{std::uint8_t(b)}, false)];
   std::vector<std::uint8_t> bytes;
   for (int b = 0; b < 256; ++b) {
-    const std::string form = PrintedForm(static_cast<std::uint8_t>(b));
-    const bool hasForm = !form.starts_with("&H");
-    const bool unbracketed = b >= 0x53 && b <= 0x58;
-    const bool takesParameter = b == 0xFC || b == 0xFD;
-    if (hasForm && printedBy[form] == 1 && !unbracketed && !takesParameter) {
-      bytes.push_back(static_cast<std::uint8_t>(b));
-    }
+    const bool unique = !printed[b].starts_with("&H") && printers[printed[b]] == 1;
+    if (unique && !(b >= 0x53 && b <= 0x58) && b != 0xFC && b != 0xFD) bytes.push_back(std::uint8_t(b));
   }
   return bytes;
 }
@@ -81,13 +73,12 @@ TEST(TextPropertyTest, AnyInputIsHandled) {
   for (int i = 0; i < 600; ++i) {
     const int n = length(random);
     Bytes bytes;
-    std::string raw;
     std::string pieced;
     for (int k = 0; k < n; ++k) {
       bytes.push_back(static_cast<std::uint8_t>(byte(random)));
-      raw.push_back(static_cast<char>(bytes.back()));
       pieced += pieces[piece(random)];
     }
+    const std::string raw(bytes.begin(), bytes.end());
     for (const bool japanese : {false, true}) {
       const std::string decoded = DecodeGameText(bytes, japanese);
       ASSERT_TRUE(isWellFormed(decoded)) << ToHex(bytes);
@@ -97,7 +88,6 @@ TEST(TextPropertyTest, AnyInputIsHandled) {
     ASSERT_TRUE(raw.starts_with(CutDecodedName(raw)));
     expectEncodes(raw);
     expectEncodes(pieced);
-    for (const std::uint8_t cell : bytes) ASSERT_TRUE(isWellFormed(BrailleCellText(cell)));
   }
 }
 
