@@ -17,7 +17,7 @@ std::string Decode(std::string_view hex, bool japanese = false) {
   return DecodeGameText(FromHex(hex), japanese);
 }
 
-// A table as it is published, by rows of consecutive bytes: each byte of a row decodes to its
+// A table written out by rows of consecutive bytes: each byte of a row decodes to its
 // form, and each of the `unmapped` bytes outside the rows to "&H" and two digits.
 struct Row {
   std::uint8_t first;
