@@ -1,6 +1,7 @@
 #include "rom/GbaPointer.h"
 
 #include <limits>
+#include <string>
 
 #include "rom/Failure.h"
 #include "rom/HexField.h"
@@ -19,6 +20,14 @@ RomOffset ToRomOffset(std::int32_t pointer) {
   if (!FitsLong(offset)) {
     throw Failure("The pointer " + ToHexText(pointer) +
                   " does not lead into the ROM: taking &H8000000 from it goes beyond 32 bits.");
+  }
+  return static_cast<RomOffset>(offset);
+}
+
+RomOffset OffsetPlus(RomOffset base, std::int32_t distance) {
+  const std::int64_t offset = std::int64_t{base} + distance;
+  if (!FitsLong(offset)) {
+    throw Failure("The offset " + ToHexText(base) + " plus " + std::to_string(distance) + " goes beyond 32 bits.");
   }
   return static_cast<RomOffset>(offset);
 }

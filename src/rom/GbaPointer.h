@@ -13,6 +13,9 @@ inline constexpr std::int32_t kGbaRomBase = 0x08000000;
 // pointer - 0x08000000 and offset + 0x08000000, in signed 32 bits. No test of the
 // result (a stored 0 gives -0x08000000); a result beyond 32 bits throws Failure.
 RomOffset ToRomOffset(std::int32_t pointer);
+
+// An offset a distance behind another; throws Failure where the sum leaves 32 bits.
+RomOffset OffsetPlus(RomOffset base, std::int32_t distance);
 std::int32_t ToGbaPointer(RomOffset offset);
 
 }  // namespace tessarine

@@ -3,6 +3,9 @@
 #include <cstdint>
 #include <string>
 
+#include "events/EventCatalogue.h"
+#include "rom/GameProfile.h"
+#include "events/PersonRecord.h"
 #include "shell/Controls.h"
 
 namespace tessarine {
@@ -11,7 +14,6 @@ namespace tessarine {
 // reads. The window shows these fields and nothing else.
 struct Form1 {
   std::string title = "Tessarine Load Test";
-  bool visible = true;
 
   // State of the open ROM, filled by OpenRom from the game's profile.
   std::string rom = "crap";  // "Loaded" once a ROM of a known game is open
@@ -32,10 +34,10 @@ struct Form1 {
   Label Label17{"About"};
 
   // Event workspace.
-  ComboBox Combo3{{}, -1, "Select a Event", false, true};  // family rs events
-  ComboBox Combo4{{}, -1, "Select a Event", true, false};  // family frlg events
-  Button Command10{"load", false};
-  Button Command9{"Save", false};
+  ComboBox Combo3{.rows = EventEntryTexts(kFamilyRs), .text = "Select a Event", .enabled = false};
+  ComboBox Combo4{.rows = EventEntryTexts(kFamilyFrlg), .text = "Select a Event", .visible = false};
+  Button Command10{.caption = "load", .enabled = false};
+  Button Command9{.caption = "Save", .enabled = false};
   Label Label6{"Sprite:"};
   TextBox spritetxt{"&H0000"};
   Label Label8{"Script:"};
@@ -45,14 +47,14 @@ struct Form1 {
   Label Label9{"Flag:"};
   TextBox flagtxt{"&H0000"};
   Label Label7{"Behavior:"};
-  ComboBox Combo2;  // movement types
+  ComboBox Combo2{.rows = MovementTypeTexts()};
   Label Label13{"Pokemon:"};
   ComboBox Combo1;  // species, row i is species i
   TextBox Text1{"&H0000"};
-  TextBox hoobla{"&H0000", true, false};
+  TextBox hoobla{.text = "&H0000", .visible = false};
   Label Label12{"Cry:"};
   TextBox Text2{"&H0000"};
-  TextBox hoobla2{"&H0000", true, false};
+  TextBox hoobla2{.text = "&H0000", .visible = false};
   Label Label11{"RomCode:"};
   Label hdtxt{"None"};  // the game code as shown
 
@@ -64,10 +66,17 @@ struct Form1 {
   std::string scripteh = "Label20";
   std::int16_t personFlag = 0;  // the flag that the last person load read or save wrote
 
+  // Guards of the save. The event fields describe the ROM opened before until an event is
+  // picked again. And where the last load found no species number in the word that the
+  // species list follows, the words to save hold none until one is picked: then this
+  // says which word held what, for the message that refuses the save.
+  bool eventFieldsMatchRom = true;
+  std::string speciesMissing;
+
   // Script lister.
   Label Label18{"Offset: "};
   TextBox Text3{"&H15F316"};
-  Button Command2{"Load", false};
+  Button Command2{.caption = "Load", .enabled = false};
   CheckBox Check1{"Braille"};
   Button Command8{"Save"};  // has no action
   TextBox Text4;

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessarine {
+
+struct Form1;
+
+// Where an event's script offset comes from: the person record's pointer, or a constant
+// of the game's profile (two events of Ruby and Sapphire).
+enum class ScriptSource { PersonRecord, LatiScript, GroudonScript };
+
+// The two 16-bit words of an event's script that hold the species and the cry, as
+// distances from the script's start, and how the main window shows them.
+struct EventWordLayout {
+  std::string_view name;  // "rs 1" ...
+  ScriptSource scriptSource;
+  int firstWordAt;   // the word shown as "Pokemon:"
+  int secondWordAt;  // the word shown as "Cry:"
+  bool showsHoobla;  // hoobla/hoobla2 on show, else Text1/Text2
+  bool listFollowsSecond;  // the species list follows the second word, else the first
+};
+
+// One row of a family's event list. `personField` is the state field of the main window
+// that holds the person record's offset.
+struct EventEntry {
+  std::string_view text;
+  std::string Form1::*personField;
+  const EventWordLayout* layout;  // none for "Select a Event" and Deoxys
+};
+
+// The events of a family ("rs" or "frlg"); empty for any other family.
+std::span<const EventEntry> EventCatalogue(std::string_view family);
+
+// The entry texts of a family's list, in order.
+std::vector<std::string> EventEntryTexts(std::string_view family);
+
+// The event of the family at a list index, or none.
+const EventEntry* FindEvent(std::string_view family, int index);
+
+}  // namespace tessarine

@@ -1,0 +1,61 @@
+#include "events/EventSelection.h"
+
+#include "events/EventCatalogue.h"
+#include "events/PersonRecord.h"
+#include "rom/HexField.h"
+#include "shell/Dialogs.h"
+#include "shell/Form1.h"
+
+namespace tessarine {
+
+void ResetEventFields(Form1& form) {
+  form.spritetxt.text = "&H0000";
+  form.scriptpointxt.text = "&H000000";
+  form.flagtxt.text = "&H0000";
+  form.hoobla2.text = "&H0000";
+  form.hoobla.text = "&H0000";
+  form.Text2.text = "&H0000";
+  form.Text1.text = "&H0000";
+}
+
+void SelectEvent(Form1& form, RomImage& rom, Dialogs& dialogs, int index) {
+  form.whee = std::to_string(index);
+  ResetEventFields(form);
+  const EventEntry* event = FindEvent(form.cowmoo, index);
+  if (event == nullptr) return;
+  form.personOffset = form.*(event->personField);
+  form.eventFieldsMatchRom = true;
+  if (form.cowmoo == kFamilyRs) {
+    form.Combo1.enabled = true;
+    if (index > 0) form.Command9.enabled = true;
+  } else if (event->layout == nullptr && index > 0) {  // Deoxys: no words to load
+    dialogs.Message("Sorry But script Loading for this Pokemon is not yet supported.");
+  }
+  LoadPerson(form, rom, dialogs);
+}
+
+void SelectSpecies(Form1& form, int index) {
+  const std::string text = ToHexText(index);
+  form.Text1.text = text;
+  form.Text2.text = text;
+  form.hoobla.text = text;
+  form.hoobla2.text = text;
+  form.speciesMissing.clear();
+}
+
+void SetCombo1Selection(Form1& form, int index) {
+  form.Combo1.Show(index);
+  SelectSpecies(form, index);
+}
+
+void SetCombo3Selection(Form1& form, RomImage& rom, Dialogs& dialogs, int index) {
+  form.Combo3.Show(index);
+  SelectEvent(form, rom, dialogs, index);
+}
+
+void SetCombo4Selection(Form1& form, RomImage& rom, Dialogs& dialogs, int index) {
+  form.Combo4.Show(index);
+  SelectEvent(form, rom, dialogs, index);
+}
+
+}  // namespace tessarine

@@ -1,0 +1,27 @@
+#pragma once
+
+namespace tessarine {
+
+struct Form1;
+class RomImage;
+class Dialogs;
+
+// The family literal that the dispatch of event words foresees and no game profile has.
+inline constexpr const char* kFamilyE = "e";
+
+// Reads the two event words of the selected event at their distances from the script
+// offset, shows them and moves the species list to the one it follows. In Ruby and
+// Sapphire it then puts back the flag of the last person load or save.
+void LoadEventWords(Form1& form, RomImage& rom, Dialogs& dialogs);
+
+// Writes hoobla and hoobla2 as the event's two words. A word is written only where the
+// ROM holds a species number at that place now; any other value there is part of the
+// script (a cry kept behind the expected place leaves opcodes there), so it is left as it
+// is and the person is told after the save.
+void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs);
+
+// Refuses a save (throws Failure) while the words to save hold no species: after a load
+// that found none in the word the list follows, until a species is picked.
+void RequireSpeciesToSave(const Form1& form);
+
+}  // namespace tessarine

@@ -1,0 +1,162 @@
+#include "events/PersonRecord.h"
+
+#include <type_traits>
+
+#include "events/EventWords.h"
+#include "rom/Failure.h"
+#include "rom/GbaPointer.h"
+#include "rom/HexField.h"
+#include "rom/RomImage.h"
+#include "shell/Form1.h"
+
+namespace tessarine {
+namespace {
+
+// Reads little-endian fields from a byte block in order; bytes missing at its end count as 0.
+class FieldReader {
+ public:
+  explicit FieldReader(const Bytes& bytes) : bytes_(bytes) {}
+
+  template <typename T>
+  void operator()(T& field) {
+    std::uint32_t value = 0;
+    for (std::size_t i = 0; i < sizeof(T); ++i, ++at_) {
+      if (at_ < bytes_.size()) value |= std::uint32_t{bytes_[at_]} << (8 * i);
+    }
+    field = static_cast<T>(value);
+  }
+
+ private:
+  const Bytes& bytes_;
+  std::size_t at_ = 0;
+};
+
+// Appends little-endian fields to a byte block.
+class FieldWriter {
+ public:
+  explicit FieldWriter(Bytes& bytes) : bytes_(bytes) {}
+
+  template <typename T>
+  void operator()(T field) {
+    const auto value = static_cast<std::uint32_t>(static_cast<std::make_unsigned_t<T>>(field));
+    for (std::size_t i = 0; i < sizeof(T); ++i) bytes_.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
+  }
+
+ private:
+  Bytes& bytes_;
+};
+
+// Visits the fourteen fields in their order in the record.
+template <typename Record, typename Visit>
+void ForEachField(Record& r, Visit visit) {
+  visit(r.keep00);
+  visit(r.sprite);
+  visit(r.keep03);
+  visit(r.keep04);
+  visit(r.keep06);
+  visit(r.keep08);
+  visit(r.behaviour);
+  visit(r.keep0A);
+  visit(r.keep0B);
+  visit(r.keep0C);
+  visit(r.keep0D);
+  visit(r.keep0E);
+  visit(r.script);
+  visit(r.flag);
+}
+
+PersonRecord ReadPersonRecord(Form1& form, RomImage& rom) {
+  rom.Seek(ParseOffset(form.personOffset, "Person offset"));
+  return PersonRecord::FromBytes(rom.ReadBytes(PersonRecord::kSize));
+}
+
+}  // namespace
+
+PersonRecord PersonRecord::FromBytes(const Bytes& bytes) {
+  PersonRecord record;
+  ForEachField(record, FieldReader(bytes));
+  return record;
+}
+
+Bytes PersonRecord::ToBytes() const {
+  Bytes bytes;
+  ForEachField(*this, FieldWriter(bytes));
+  return bytes;
+}
+
+std::vector<std::string> MovementTypeTexts() {
+  return {
+      "No Movement",
+      "Look around",
+      "Walk around",
+      "Patrol up and down [Starting up three tiles]",
+      "Patrol up and down [Starting down three tiles]",
+      "Patrol left and right [Starting left three tiles]",
+      "Patrol left and right [Starting right three tiles]",
+      "Just stand there [up]",
+      "Just stand there [down]",
+      "Just stand there [left]",
+      "Just stand there [right]",
+      "Just stand there",
+  };
+}
+
+void LoadPerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
+  const PersonRecord record = ReadPersonRecord(form, rom);
+  // The fields take their texts in the record's order, so a pointer that cannot become an
+  // offset leaves the fields after it as they were.
+  form.spritetxt.text = ToHexText(record.sprite);
+  SetBehavtxt(form, ToHexText(record.behaviour));
+  const std::string script = ToHexText(ToRomOffset(record.script));
+  form.scriptpointxt.text = script;
+  form.Text3.text = script;
+  form.scripteh = script;
+  form.flagtxt.text = ToHexText(record.flag);
+  form.personFlag = record.flag;
+  form.tehe = std::to_string(form.Combo2.selected);
+  LoadEventWords(form, rom, dialogs);
+}
+
+void SavePerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
+  if (!form.eventFieldsMatchRom) {
+    throw Failure(
+        "Pick an event in the list before saving: the event fields were not loaded from the ROM now open, "
+        "and a save would write at offsets that may not belong to it. Nothing was saved.");
+  }
+  RequireSpeciesToSave(form);
+  PersonRecord record = ReadPersonRecord(form, rom);
+  try {
+    record.sprite = ParseWord(form.spritetxt.text, "Sprite");
+    record.flag = ParseWord(form.flagtxt.text, "Flag");
+    record.behaviour = ParseByte(form.behavtxt, "Behavior");
+  } catch (const Failure& failure) {
+    throw failure.Then("Nothing was saved.");
+  }
+  rom.Seek(ParseOffset(form.personOffset, "Person offset"));
+  rom.WriteBytes(record.ToBytes());
+  form.personFlag = record.flag;
+  SaveEventWords(form, rom, dialogs);
+}
+
+void SetBehaviourText(Form1& form) {
+  const std::int32_t value = ParseLenient(form.behavtxt);
+  if (value >= 0 && static_cast<std::size_t>(value) < form.Combo2.rows.size()) SetCombo2Selection(form, value);
+}
+
+void SelectMovement(Form1& form, int index) {
+  SetBehavtxt(form, ToHexText(index));
+  form.tehe = std::to_string(index);
+}
+
+void SetBehavtxt(Form1& form, const std::string& text) {
+  if (form.behavtxt == text) return;
+  form.behavtxt = text;
+  SetBehaviourText(form);
+}
+
+void SetCombo2Selection(Form1& form, int index) {
+  form.Combo2.Show(index);
+  SelectMovement(form, index);
+}
+
+}  // namespace tessarine

@@ -1,0 +1,15 @@
+#pragma once
+
+namespace tessarine {
+
+struct Form1;
+class RomImage;
+class Dialogs;
+
+// The "Open" button: closes the file, asks for another, reads its game code, and for a
+// known game fills the state fields from its profile, sets the window up for the game's
+// family and fills the species list. An unknown code hides the main window and shows the
+// Unsupported ROM dialog. A step that fails is told to the person and the next one runs.
+void OpenRom(Form1& form, RomImage& rom, Dialogs& dialogs);
+
+}  // namespace tessarine

@@ -1,0 +1,34 @@
+#include "rom/SpeciesList.h"
+
+#include <span>
+
+#include "rom/HexField.h"
+#include "rom/RomImage.h"
+#include "shell/Form1.h"
+#include "text/mdlTextSapp.h"
+
+namespace tessarine {
+
+std::string NumberedRow(int index, std::string_view name) {
+  static constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string row(3, '0');
+  for (int i = 2, v = index; i >= 0; --i, v >>= 4) row[static_cast<std::size_t>(i)] = kDigits[v & 0xF];
+  return row + " - " + std::string(name);
+}
+
+void FillSpeciesList(Form1& form, RomImage& rom) {
+  rom.Seek(ParseOffset(form.Label20, "Species names offset"));
+  // The whole table in one read: the records lie back to back, and a table that runs
+  // past the end of the file yields shorter names, never bytes from outside it.
+  const Bytes table = rom.ReadBytes(std::size_t{kSpeciesCount} * kSpeciesNameLength);
+  const std::span<const std::uint8_t> all(table);
+  form.Combo1.rows.reserve(form.Combo1.rows.size() + kSpeciesCount);
+  for (int index = 0; index < kSpeciesCount; ++index) {
+    const std::size_t start = std::min(all.size(), std::size_t(index) * kSpeciesNameLength);
+    const std::size_t length = std::min<std::size_t>(kSpeciesNameLength, all.size() - start);
+    const std::string name = CutDecodedName(DecodeGameText(all.subspan(start, length), false));
+    form.Combo1.rows.push_back(NumberedRow(index, name));
+  }
+}
+
+}  // namespace tessarine

@@ -1,0 +1,134 @@
+#include "support/EventFixtures.h"
+
+#include <array>
+#include <stdexcept>
+
+namespace tessarine::test {
+namespace {
+
+// The game's offsets, stated here on their own so that the tests compare the system's
+// tables against an independent copy.
+struct GameOffsets {
+  std::string_view code;
+  bool rs;
+  std::uint32_t speciesNames;
+  std::uint32_t label1, raytxt, grou, regi1, regi2, regi3;
+  std::uint32_t latiScript, groudonScript;
+};
+
+constexpr std::array<GameOffsets, 4> kGames{{
+    {"AXVE", true, 0x1F716C, 0x38EE50, 0x391E78, 0x38D880, 0x38E674, 0x38E6DC, 0x38BEBC, 0x160B9B, 0x15DDD7},
+    {"AXPE", true, 0x1F70FC, 0x38EDE0, 0x391E08, 0x38D810, 0x38E604, 0x38E66C, 0x38BE4C, 0x160B2B, 0x15DD67},
+    {"BPRE", false, 0x245EE0, 0x3B27D4, 0x3B4BFC, 0, 0x3B2D7C, 0x3B2120, 0x3B177C, 0, 0},
+    {"BPGE", false, 0x245EBC, 0x3B27B4, 0x3B4BDC, 0, 0x3B2D5C, 0x3B2100, 0x3B175C, 0, 0},
+}};
+
+const GameOffsets& Game(std::string_view code) {
+  for (const GameOffsets& game : kGames) {
+    if (game.code == code) return game;
+  }
+  throw std::invalid_argument("no fixture events for this game code");
+}
+
+constexpr std::uint32_t kFreeSpace = 0xA00000;  // the fixtures' scripts live here
+
+}  // namespace
+
+std::string FixtureSpeciesName(int index) {
+  static constexpr std::array<std::string_view, 16> kHeads{"Bra", "Quo", "Zel", "Mor", "Vin", "Tal", "Fer", "Lum",
+                                                           "Osk", "Pim", "Rud", "Sol", "Tek", "Ulv", "Wix", "Yar"};
+  static constexpr std::array<std::string_view, 16> kTails{"lit", "dor", "vex", "nip", "gal", "rum", "sek", "tov",
+                                                           "bez", "kin", "pra", "wuf", "jol", "mec", "hax", "zub"};
+  static constexpr std::array<std::string_view, 2> kEnds{"", "ba"};
+  return std::string(kHeads[index % 16]) + std::string(kTails[(index / 16) % 16]) +
+         std::string(kEnds[(index / 256) % 2]);
+}
+
+Bytes FixturePerson::Encode() const {
+  Bytes b{0x01, 0, 0, 0x07, 0x0A, 0x00, 0x0B, 0x00, 0x03, 0, 0x11, 0x09, 0x00, 0x0D, 0x04, 0x00, 0, 0, 0, 0, 0, 0};
+  b[1] = static_cast<std::uint8_t>(sprite);
+  b[2] = static_cast<std::uint8_t>(sprite >> 8);
+  b[9] = behaviour;
+  for (int i = 0; i < 4; ++i) b[16 + static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(scriptPointer >> (8 * i));
+  b[20] = static_cast<std::uint8_t>(flag);
+  b[21] = static_cast<std::uint8_t>(flag >> 8);
+  return b;
+}
+
+std::uint32_t SpeciesTableOffset(std::string_view gameCode) { return Game(gameCode).speciesNames; }
+
+std::vector<FixtureEvent> FixtureEvents(std::string_view gameCode) {
+  const GameOffsets& g = Game(gameCode);
+  struct Row {
+    std::string_view name;
+    std::uint32_t person;
+    std::uint32_t constantScript;  // 0: the person record's pointer leads to the words
+    int firstAt, secondAt;
+    bool listFollowsSecond, showsHoobla;
+  };
+  std::vector<Row> rows;
+  if (g.rs) {
+    rows = {{"Select a Event", g.label1, 0, -1, -1, false, false},
+            {"Rayquaza", g.label1, 0, 3, 8, false, false},
+            {"Latias/Latios", g.raytxt, g.latiScript, 89, 51, false, true},
+            {"Groudon/Kyogre", g.grou, g.groudonScript, 79, 86, false, true},
+            {"Regiice", g.regi1, 0, 13, 4, true, false},
+            {"Regirock", g.regi3, 0, 13, 4, true, false},
+            {"Registeel", g.regi2, 0, 13, 4, true, false}};
+  } else {
+    rows = {{"Select a Event", g.label1, 0, -1, -1, false, false},
+            {"Zapdos", g.label1, 0, 20, 27, false, false},
+            {"Moltres", g.regi1, 0, 20, 27, false, false},
+            {"Articuno", g.regi2, 0, 20, 27, false, false},
+            {"Mewtwo", g.regi3, 0, 41, 20, false, false},
+            {"Deoxys", g.raytxt, 0, -1, -1, false, false}};
+  }
+  std::vector<FixtureEvent> events;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const Row& row = rows[i];
+    const auto k = static_cast<std::uint32_t>(i);
+    const std::uint32_t pointed = kFreeSpace + 0x100 * k;
+    FixtureEvent e;
+    e.index = static_cast<int>(i);
+    e.name = row.name;
+    e.person = row.person;
+    e.record = {static_cast<std::uint16_t>(0x50 + k), static_cast<std::uint8_t>(k + 1),
+                static_cast<std::uint16_t>(0x800 + k), pointed + 0x08000000};
+    e.script = row.constantScript != 0 ? row.constantScript : pointed;
+    e.firstAt = row.firstAt;
+    e.secondAt = row.secondAt;
+    e.first = static_cast<std::uint16_t>(0x100 + k);   // two distinct species numbers
+    e.second = static_cast<std::uint16_t>(0x180 + k);
+    e.listFollowsSecond = row.listFollowsSecond;
+    e.showsHoobla = row.showsHoobla;
+    events.push_back(e);
+  }
+  events[0].record = events[1].record;  // entry 0 shows the first event's person
+  events[0].script = events[1].script;
+  return events;
+}
+
+void PutSpeciesNames(FixtureRom& rom, std::uint32_t tableOffset) {
+  for (int index = 0; index < 412; ++index) {
+    rom.PutName(tableOffset + static_cast<std::uint32_t>(index) * 11, FixtureSpeciesName(index), 11);
+  }
+}
+
+void PutEvents(FixtureRom& rom, const std::vector<FixtureEvent>& events) {
+  for (const FixtureEvent& e : events) {
+    if (e.index == 0) continue;  // entry 0 shares the first event's person record
+    rom.PutBytes(e.person, e.record.Encode());
+    if (e.firstAt < 0) continue;
+    rom.PutWord(e.script + static_cast<std::uint32_t>(e.firstAt), e.first);
+    rom.PutWord(e.script + static_cast<std::uint32_t>(e.secondAt), e.second);
+  }
+}
+
+FixtureRom EventFixtureRom(std::string_view gameCode) {
+  FixtureRom rom{gameCode};
+  PutSpeciesNames(rom, SpeciesTableOffset(gameCode));
+  PutEvents(rom, FixtureEvents(gameCode));
+  return rom;
+}
+
+}  // namespace tessarine::test
