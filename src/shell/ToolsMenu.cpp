@@ -1,0 +1,48 @@
+#include "shell/ToolsMenu.h"
+
+#include "shell/Dialogs.h"
+#include "shell/Form1.h"
+
+namespace tessarine {
+namespace {
+
+bool NeedsLoadedRom(MenuEntry entry) {
+  switch (entry) {
+    case MenuEntry::mnuwbs:
+    case MenuEntry::mnugps:
+    case MenuEntry::mnuib:
+    case MenuEntry::mnuflin:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+void RunMenuEntry(MenuEntry entry, Form1& form, RomImage& /*rom*/, Dialogs& dialogs) {
+  if (NeedsLoadedRom(entry) && form.rom != "Loaded") {
+    dialogs.Message("Load a Rom First");
+    return;
+  }
+  switch (entry) {
+    case MenuEntry::mnuwbs: {
+      const MessageAnswer answer =
+          dialogs.Message("You wan't a Message in your event script?", MessageButtons::YesNo, "Ok.");
+      dialogs.Show(answer == MessageAnswer::Yes ? WindowName::Form4 : WindowName::Form3);
+      break;
+    }
+    case MenuEntry::mnugps: dialogs.Show(WindowName::Form5); break;
+    case MenuEntry::mnuib: dialogs.Show(WindowName::Form6); break;
+    case MenuEntry::mnustart: dialogs.Show(WindowName::Form2); break;
+    case MenuEntry::mnuflin: dialogs.Show(WindowName::Form8); break;
+    case MenuEntry::mnufrst: dialogs.StartProgram(kKindlewick); break;  // a failure passes in silence
+    case MenuEntry::mnuedipmon:  // the name editors run their questions from their own module
+    case MenuEntry::mnuediten:
+    case MenuEntry::nfdn:
+    case MenuEntry::fhn:
+      break;
+  }
+}
+
+}  // namespace tessarine
