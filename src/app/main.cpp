@@ -1,14 +1,20 @@
 #include <QApplication>
 
-#include "rom/RomImage.h"
-#include "shell/Form1.h"
 #include "shell/Form1Window.h"
+#include "shell/QtArtwork.h"
+#include "shell/QtDialogs.h"
+#include "shell/QtShell.h"
 
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
-  tessarine::RomImage rom;
-  tessarine::Form1 form;
-  tessarine::Form1Window window(form);
-  window.show();
+  QApplication::setApplicationName("Tessarine");
+  QApplication::setWindowIcon(tessarine::ApplicationIcon());
+  // The main window may be hidden while the Unsupported ROM dialog stands alone; the
+  // program ends when the main window closes, not when the last window does.
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  tessarine::QtDialogs dialogs;
+  tessarine::QtShell shell(dialogs);
+  shell.ShowWindow(tessarine::WindowName::Form1);
   return QApplication::exec();
 }

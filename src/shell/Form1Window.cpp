@@ -1,12 +1,402 @@
 #include "shell/Form1Window.h"
 
-namespace tessarine {
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QCursor>
+#include <QFontDatabase>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QStackedLayout>
+#include <QVBoxLayout>
+#include <QWindow>
 
-Form1Window::Form1Window(Form1& form, QWidget* parent) : QWidget(parent), form_(form) {
+#include "events/EventSelection.h"
+#include "events/EventWords.h"
+#include "events/PersonRecord.h"
+#include "rom/OpenRom.h"
+#include "shell/QtArtwork.h"
+#include "shell/QtShell.h"
+
+namespace tessarine {
+namespace {
+
+QString Q(const std::string& text) { return QString::fromStdString(text); }
+
+template <typename W>
+W* Named(W* widget, const char* name) {
+  widget->setObjectName(name);
+  return widget;
+}
+
+// Widgets that stand in one place, one over the other; the last one is on top.
+QWidget* OnePlace(QWidget* parent, std::initializer_list<QWidget*> widgets) {
+  auto* place = new QWidget(parent);
+  auto* stack = new QStackedLayout(place);
+  stack->setStackingMode(QStackedLayout::StackAll);
+  for (QWidget* widget : widgets) stack->addWidget(widget);
+  stack->setCurrentWidget(*(widgets.end() - 1));
+  return place;
+}
+
+void Sync(QLineEdit* widget, const TextBox& box) {
+  if (widget->text() != Q(box.text)) widget->setText(Q(box.text));
+  widget->setEnabled(box.enabled);
+  widget->setVisible(box.visible);
+}
+
+void Sync(QAbstractButton* widget, const Button& button) {
+  widget->setText(Q(button.caption));
+  widget->setEnabled(button.enabled);
+  widget->setVisible(button.visible);
+}
+
+void Sync(QLabel* widget, const Label& label) {
+  widget->setText(Q(label.caption));
+  widget->setVisible(label.visible);
+}
+
+constexpr int kImageButtonWidth = 76;
+constexpr int kImageButtonHeight = 30;
+
+}  // namespace
+
+ImageButton::ImageButton(const QString& name, const QString& labelName, QWidget* parent)
+    : QAbstractButton(parent), label_(new QLabel(this)) {
+  setObjectName(name);
+  setFocusPolicy(Qt::StrongFocus);
+  setCursor(Qt::PointingHandCursor);
+  label_->setObjectName(labelName);
+  label_->setAlignment(Qt::AlignCenter);
+  // The caption sits on the picture; a click on it is a click on the picture.
+  label_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(label_);
+}
+
+QSize ImageButton::sizeHint() const {
+  return QSize(std::max(kImageButtonWidth, label_->sizeHint().width() + 20), kImageButtonHeight);
+}
+
+void ImageButton::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  p.drawPixmap(0, 0, ButtonFace(size(), isDown()));
+  if (hasFocus()) {
+    p.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DotLine));
+    p.drawRoundedRect(rect().adjusted(3, 3, -4, -4), 5, 5);
+  }
+}
+
+void ImageButton::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    animateClick();
+    return;
+  }
+  QAbstractButton::keyPressEvent(event);
+}
+
+Form1Window::Form1Window(QtShell& shell) : shell_(shell) {
   setObjectName("Form1");
+  setWindowIcon(ApplicationIcon());
+  BuildWidgets();
+  Connect();
   Refresh();
 }
 
-void Form1Window::Refresh() { setWindowTitle(QString::fromStdString(form_.title)); }
+Form1Window::~Form1Window() = default;
+
+void Form1Window::BuildWidgets() {
+  Image3_ = new ImageButton("Image3", "Label15", this);
+  Image4_ = new ImageButton("Image4", "Label16", this);
+  Image5_ = new ImageButton("Image5", "Label17", this);
+  // The captions take the system's button text colour.
+  for (ImageButton* button : {Image3_, Image4_, Image5_}) {
+    QPalette palette = button->label()->palette();
+    palette.setColor(QPalette::WindowText, palette.color(QPalette::ButtonText));
+    button->label()->setPalette(palette);
+  }
+
+  Image6_ = Named(new QLabel(this), "Image6");
+  Image6_->setPixmap(EmblemPicture(200));
+  Image6_->setFixedSize(200, 200);
+
+  Combo3_ = Named(new QComboBox(this), "Combo3");
+  Combo3_->setEditable(true);
+  Combo4_ = Named(new QComboBox(this), "Combo4");
+  Combo4_->setEditable(true);
+  for (QComboBox* events : {Combo3_, Combo4_}) {
+    events->setInsertPolicy(QComboBox::NoInsert);
+    events->setMinimumContentsLength(16);
+  }
+  Command10_ = Named(new QPushButton(this), "Command10");
+  Command9_ = Named(new QPushButton(this), "Command9");
+  Label6_ = Named(new QLabel(this), "Label6");
+  spritetxt_ = Named(new QLineEdit(this), "spritetxt");
+  Label8_ = Named(new QLabel(this), "Label8");
+  scriptpointxt_ = Named(new QLineEdit(this), "scriptpointxt");
+  Command6_ = Named(new QPushButton(this), "Command6");
+  frlgl_ = Named(new QPushButton(this), "frlgl");
+  Label9_ = Named(new QLabel(this), "Label9");
+  flagtxt_ = Named(new QLineEdit(this), "flagtxt");
+  Label7_ = Named(new QLabel(this), "Label7");
+  Combo2_ = Named(new QComboBox(this), "Combo2");
+  Combo2_->setSizeAdjustPolicy(QComboBox::AdjustToContents);  // every movement type shows whole
+  Label13_ = Named(new QLabel(this), "Label13");
+  Combo1_ = Named(new QComboBox(this), "Combo1");
+  Combo1_->setMinimumContentsLength(18);
+  Combo1_->setMaxVisibleItems(20);
+  Text1_ = Named(new QLineEdit(this), "Text1");
+  hoobla_ = Named(new QLineEdit(this), "hoobla");
+  Label12_ = Named(new QLabel(this), "Label12");
+  Text2_ = Named(new QLineEdit(this), "Text2");
+  hoobla2_ = Named(new QLineEdit(this), "hoobla2");
+  Label11_ = Named(new QLabel(this), "Label11");
+  hdtxt_ = Named(new QLabel(this), "hdtxt");
+  Label18_ = Named(new QLabel(this), "Label18");
+  Text3_ = Named(new QLineEdit(this), "Text3");
+  Command2_ = Named(new QPushButton(this), "Command2");
+  Check1_ = Named(new QCheckBox(this), "Check1");
+  Command8_ = Named(new QPushButton(this), "Command8");
+  Text4_ = Named(new QPlainTextEdit(this), "Text4");
+  Text4_->setLineWrapMode(QPlainTextEdit::NoWrap);
+  Text4_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  Text4_->setMinimumHeight(220);
+
+  for (QLineEdit* number : {spritetxt_, flagtxt_, Text1_, hoobla_, Text2_, hoobla2_}) {
+    number->setMaximumWidth(90);
+  }
+  scriptpointxt_->setMaximumWidth(110);
+  Text3_->setMaximumWidth(110);
+  for (QLabel* label : {Label6_, Label8_, Label9_, Label7_, Label13_, Label12_}) {
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  }
+
+  // Top row: the three picture buttons.
+  auto* top = new QHBoxLayout;
+  top->addWidget(Image3_);
+  top->addWidget(Image4_);
+  top->addWidget(Image5_);
+  top->addStretch();
+
+  // The event workspace beside the picture.
+  auto* fields = new QGridLayout;
+  fields->setHorizontalSpacing(8);
+  fields->addWidget(OnePlace(this, {Combo3_, Combo4_}), 0, 0, 1, 4);
+  auto* loadSave = new QHBoxLayout;
+  loadSave->addWidget(Command10_);
+  loadSave->addWidget(Command9_);
+  fields->addLayout(loadSave, 0, 4);
+  fields->addWidget(Label6_, 1, 0);
+  fields->addWidget(spritetxt_, 1, 1);
+  fields->addWidget(Label8_, 1, 2);
+  fields->addWidget(scriptpointxt_, 1, 3);
+  fields->addWidget(OnePlace(this, {Command6_, frlgl_}), 1, 4);
+  fields->addWidget(Label9_, 2, 0);
+  fields->addWidget(flagtxt_, 2, 1);
+  fields->addWidget(Label7_, 3, 0);
+  fields->addWidget(Combo2_, 3, 1, 1, 4);
+  fields->addWidget(Label13_, 4, 0);
+  // Text1 and hoobla lie under the species list, which covers them.
+  fields->addWidget(OnePlace(this, {Text1_, hoobla_, Combo1_}), 4, 1, 1, 2);
+  fields->addWidget(Label12_, 4, 3, Qt::AlignRight);
+  fields->addWidget(OnePlace(this, {Text2_, hoobla2_}), 4, 4);
+  fields->setRowStretch(5, 1);
+
+  auto* romCode = Named(new QFrame(this), "RomCodeBox");
+  romCode->setFrameShape(QFrame::Box);
+  romCode->setFrameShadow(QFrame::Sunken);
+  auto* romCodeRow = new QHBoxLayout(romCode);
+  romCodeRow->setContentsMargins(8, 3, 8, 3);
+  romCodeRow->addWidget(Label11_);
+  romCodeRow->addWidget(hdtxt_);
+  fields->addWidget(romCode, 6, 3, 1, 2, Qt::AlignRight);
+
+  auto* workspace = new QHBoxLayout;
+  workspace->addWidget(Image6_, 0, Qt::AlignTop);
+  workspace->addSpacing(6);
+  workspace->addLayout(fields, 1);
+
+  // The script lister.
+  auto* lister = new QHBoxLayout;
+  lister->addWidget(Label18_);
+  lister->addWidget(Text3_);
+  lister->addWidget(Command2_);
+  lister->addWidget(Check1_);
+  lister->addStretch();
+  lister->addWidget(Command8_);
+
+  auto* window = new QVBoxLayout(this);
+  window->setContentsMargins(12, 10, 12, 12);
+  window->addLayout(top);
+  window->addSpacing(4);
+  window->addLayout(workspace);
+  window->addSpacing(8);
+  window->addLayout(lister);
+  window->addWidget(Text4_, 1);
+
+  // Keyboard order: top to bottom, left to right, as the rows read.
+  QWidget* const order[] = {Image3_,  Image4_, Image5_,  Combo3_, Combo4_,  Command10_, Command9_,
+                            spritetxt_, scriptpointxt_, Command6_, frlgl_, flagtxt_, Combo2_, Combo1_,
+                            Text2_,   hoobla2_, Text3_,  Command2_, Check1_, Command8_, Text4_};
+  for (std::size_t i = 1; i < std::size(order); ++i) {
+    QWidget::setTabOrder(order[i - 1], order[i]);
+  }
+}
+
+void Form1Window::Connect() {
+  Form1& f = shell_.form1();
+  const auto run = [this](auto action) { shell_.Run(action); };
+
+  connect(Image3_, &QAbstractButton::clicked, this,
+          [=, this] { run([this] { OpenRom(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+  connect(Image4_, &QAbstractButton::clicked, this, [this] {
+    const QPoint at = Image4_->underMouse() ? QCursor::pos() : Image4_->mapToGlobal(QPoint(0, Image4_->height()));
+    Image4_->setDown(true);  // the pressed face while the menu is open
+    PopUpToolsMenu(at);
+    Image4_->setDown(false);
+  });
+  connect(Image5_, &QAbstractButton::clicked, this, [this] { shell_.ShowWindow(WindowName::frmAbout); });
+
+  connect(Combo3_, &QComboBox::activated, this,
+          [=, this](int i) { run([this, i] { SetCombo3Selection(shell_.form1(), shell_.rom(), shell_.dialogs(), i); }); });
+  connect(Combo4_, &QComboBox::activated, this,
+          [=, this](int i) { run([this, i] { SetCombo4Selection(shell_.form1(), shell_.rom(), shell_.dialogs(), i); }); });
+  connect(Combo3_, &QComboBox::editTextChanged, this, [&f](const QString& t) { f.Combo3.text = t.toStdString(); });
+  connect(Combo4_, &QComboBox::editTextChanged, this, [&f](const QString& t) { f.Combo4.text = t.toStdString(); });
+  connect(Combo2_, &QComboBox::activated, this, [=, this](int i) { run([this, i] { SetCombo2Selection(shell_.form1(), i); }); });
+  connect(Combo1_, &QComboBox::activated, this, [=, this](int i) { run([this, i] { SetCombo1Selection(shell_.form1(), i); }); });
+
+  connect(Command10_, &QPushButton::clicked, this,
+          [=, this] { run([this] { LoadPerson(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+  connect(Command9_, &QPushButton::clicked, this,
+          [=, this] { run([this] { SavePerson(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+  for (QPushButton* load : {Command6_, frlgl_}) {
+    connect(load, &QPushButton::clicked, this,
+            [=, this] { run([this] { LoadEventWords(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+  }
+
+  // Typing only changes the field; nothing runs until a button is pressed.
+  const std::pair<QLineEdit*, TextBox*> edits[] = {{spritetxt_, &f.spritetxt}, {scriptpointxt_, &f.scriptpointxt},
+                                                   {flagtxt_, &f.flagtxt},     {Text1_, &f.Text1},
+                                                   {hoobla_, &f.hoobla},       {Text2_, &f.Text2},
+                                                   {hoobla2_, &f.hoobla2},     {Text3_, &f.Text3}};
+  for (const auto& [widget, box] : edits) {
+    connect(widget, &QLineEdit::textEdited, this, [box = box](const QString& t) { box->text = t.toStdString(); });
+  }
+  connect(Check1_, &QCheckBox::toggled, this, [&f](bool checked) { f.Check1.checked = checked; });
+}
+
+void Form1Window::SyncCombo(QComboBox* widget, const ComboBox& combo, std::vector<std::string>& shownRows) {
+  if (shownRows != combo.rows) {
+    widget->clear();
+    QStringList rows;
+    rows.reserve(static_cast<qsizetype>(combo.rows.size()));
+    for (const std::string& row : combo.rows) rows << Q(row);
+    widget->addItems(rows);
+    shownRows = combo.rows;
+  }
+  if (widget->currentIndex() != combo.selected) widget->setCurrentIndex(combo.selected);
+  if (widget->isEditable() && widget->currentText() != Q(combo.text)) widget->setEditText(Q(combo.text));
+  widget->setEnabled(combo.enabled);
+  widget->setVisible(combo.visible);
+}
+
+void Form1Window::Refresh() {
+  const Form1& f = shell_.form1();
+  const QList<QWidget*> all = findChildren<QWidget*>();
+  std::vector<std::unique_ptr<QSignalBlocker>> blockers;
+  for (QWidget* widget : all) blockers.push_back(std::make_unique<QSignalBlocker>(widget));
+
+  setWindowTitle(Q(f.title));
+  Sync(Image3_->label(), f.Label15);
+  Sync(Image4_->label(), f.Label16);
+  Sync(Image5_->label(), f.Label17);
+  SyncCombo(Combo3_, f.Combo3, shownCombo3_);
+  SyncCombo(Combo4_, f.Combo4, shownCombo4_);
+  Sync(Command10_, f.Command10);
+  Sync(Command9_, f.Command9);
+  Sync(Label6_, f.Label6);
+  Sync(spritetxt_, f.spritetxt);
+  Sync(Label8_, f.Label8);
+  Sync(scriptpointxt_, f.scriptpointxt);
+  Sync(Command6_, f.Command6);
+  Sync(frlgl_, f.frlgl);
+  Sync(Label9_, f.Label9);
+  Sync(flagtxt_, f.flagtxt);
+  Sync(Label7_, f.Label7);
+  SyncCombo(Combo2_, f.Combo2, shownCombo2_);
+  Sync(Label13_, f.Label13);
+  SyncCombo(Combo1_, f.Combo1, shownCombo1_);
+  Sync(Text1_, f.Text1);
+  Sync(hoobla_, f.hoobla);
+  Sync(Label12_, f.Label12);
+  Sync(Text2_, f.Text2);
+  Sync(hoobla2_, f.hoobla2);
+  Sync(Label11_, f.Label11);
+  Sync(hdtxt_, f.hdtxt);
+  Sync(Label18_, f.Label18);
+  Sync(Text3_, f.Text3);
+  Sync(Command2_, f.Command2);
+  Check1_->setText(Q(f.Check1.caption));
+  Check1_->setChecked(f.Check1.checked);
+  Sync(Command8_, f.Command8);
+  if (shownText4_ != f.Text4.text) {
+    Text4_->setPlainText(Q(f.Text4.text));
+    shownText4_ = f.Text4.text;
+  }
+}
+
+void Form1Window::PopUpToolsMenu(const QPoint& at) {
+  QMenu menu(this);
+  menu.setObjectName("mnuptro");
+  menu.setTitle(Q(shell_.form7().mnuptroCaption));
+  for (const MenuItem& item : shell_.form7().mnuptro) {
+    QAction* action = menu.addAction(Q(item.caption));
+    action->setEnabled(item.enabled);
+    const MenuEntry entry = item.entry;
+    connect(action, &QAction::triggered, this, [this, entry] {
+      shell_.Run([this, entry] { RunMenuEntry(entry, shell_.form1(), shell_.rom(), shell_.dialogs()); });
+    });
+  }
+  menu.exec(at);
+}
+
+void Form1Window::paintEvent(QPaintEvent*) {
+  if (background_.size() != size()) background_ = BackgroundPicture(size());
+  QPainter(this).drawPixmap(0, 0, background_);
+}
+
+void Form1Window::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::RightButton) {
+    PopUpToolsMenu(event->globalPosition().toPoint());
+    return;
+  }
+  QWidget::mousePressEvent(event);
+}
+
+void Form1Window::mouseMoveEvent(QMouseEvent* event) {
+  // The window follows the mouse dragged over its background with the left button.
+  if (event->buttons() == Qt::LeftButton && windowHandle() != nullptr) {
+    windowHandle()->startSystemMove();
+    return;
+  }
+  QWidget::mouseMoveEvent(event);
+}
+
+void Form1Window::closeEvent(QCloseEvent* event) {
+  event->accept();
+  shell_.End();
+}
 
 }  // namespace tessarine

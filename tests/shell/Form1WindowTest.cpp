@@ -1,15 +1,164 @@
 #include "shell/Form1Window.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "shell/QtShell.h"
+#include "support/ByteOracle.h"
+#include "support/EventFixtures.h"
+#include "support/ScriptedDialogs.h"
 
 namespace tessarine {
 namespace {
 
-TEST(Form1WindowTest, ShowsTheMainWindowTitle) {
-  Form1 form;
-  Form1Window window(form);
-  window.show();
-  EXPECT_EQ(window.windowTitle().toStdString(), "Tessarine Load Test");
+using test::ByteOracle;
+using test::ByteRange;
+using test::EventFixtureRom;
+using test::FixtureRom;
+using test::ScriptedDialogs;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+// Picks a row of a drop-down list as a person does: opens it and clicks the row.
+void Pick(QComboBox* combo, int row) {
+  combo->showPopup();
+  QAbstractItemView* list = combo->view();
+  const QModelIndex index = list->model()->index(row, combo->modelColumn());
+  list->scrollTo(index);
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
+}
+
+void Type(QLineEdit* field, const QString& text) {
+  field->setFocus();
+  field->selectAll();
+  QTest::keyClicks(field, text);
+}
+
+class Form1WindowTest : public ::testing::Test {
+ protected:
+  ScriptedDialogs dialogs;
+  QtShell shell{dialogs};
+  Form1Window& window = shell.mainWindow();
+
+  void SetUp() override {
+    shell.ShowWindow(WindowName::Form1);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  }
+  template <typename W>
+  W* Find(const char* name) {
+    W* widget = window.findChild<W*>(name);
+    EXPECT_NE(widget, nullptr) << name;
+    return widget;
+  }
+  void ClickOpen(const std::string& path) {
+    dialogs.openFileAnswers.push_back(path);
+    QTest::mouseClick(Find<ImageButton>("Image3"), Qt::LeftButton);
+  }
+};
+
+TEST_F(Form1WindowTest, StartsWithTheControlsOfTheMainWindow) {
+  EXPECT_EQ(window.windowTitle(), "Tessarine Load Test");
+  EXPECT_EQ(Find<QLabel>("Label15")->text(), "Open");
+  EXPECT_EQ(Find<QLabel>("Label16")->text(), "Tools");
+  EXPECT_EQ(Find<QLabel>("Label17")->text(), "About");
+  EXPECT_EQ(Find<QComboBox>("Combo3")->currentText(), "Select a Event");
+  EXPECT_FALSE(Find<QComboBox>("Combo3")->isEnabled());
+  EXPECT_FALSE(Find<QComboBox>("Combo4")->isVisible());
+  EXPECT_EQ(Find<QPushButton>("Command10")->text(), "load");
+  EXPECT_FALSE(Find<QPushButton>("Command10")->isEnabled());
+  EXPECT_FALSE(Find<QPushButton>("Command9")->isEnabled());
+  EXPECT_FALSE(Find<QPushButton>("Command2")->isEnabled());
+  EXPECT_EQ(Find<QLineEdit>("spritetxt")->text(), "&H0000");
+  EXPECT_EQ(Find<QLineEdit>("scriptpointxt")->text(), "&H000000");
+  EXPECT_EQ(Find<QLineEdit>("Text3")->text(), "&H15F316");
+  EXPECT_EQ(Find<QLabel>("Label18")->text(), "Offset: ");
+  EXPECT_EQ(Find<QLabel>("hdtxt")->text(), "None");
+  EXPECT_EQ(Find<QComboBox>("Combo2")->count(), 12);
+  EXPECT_TRUE(Find<QPushButton>("Command6")->isVisible());
+  EXPECT_TRUE(Find<QPushButton>("frlgl")->isVisible());
+  EXPECT_FALSE(Find<QLineEdit>("hoobla2")->isVisible());
+}
+
+TEST_F(Form1WindowTest, AnEventEditFromOpenToSaveThroughTheWidgets) {
+  FixtureRom fixture = EventFixtureRom("AXPE");
+  ClickOpen(fixture.path());
+  EXPECT_EQ(Find<QLabel>("hdtxt")->text(), "AXPE");
+  EXPECT_EQ(Find<QComboBox>("Combo1")->count(), 412);
+
+  Pick(Find<QComboBox>("Combo3"), 2);  // Latias/Latios
+  EXPECT_EQ(Find<QLineEdit>("scriptpointxt")->text(), "&H160B2B");
+  ASSERT_TRUE(Find<QLineEdit>("hoobla2")->isVisible());
+
+  const ByteOracle oracle(fixture.path());
+  Pick(Find<QComboBox>("Combo1"), 0xAA);
+  EXPECT_EQ(Find<QLineEdit>("hoobla2")->text(), "&HAA");
+  Type(Find<QLineEdit>("hoobla2"), "&HC0");
+  Type(Find<QLineEdit>("flagtxt"), "&H4321");
+  QTest::mouseClick(Find<QPushButton>("Command9"), Qt::LeftButton);
+
+  EXPECT_THAT(dialogs.messages, IsEmpty());
+  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{0x160B5E, 2}, {0x160B84, 2}, {0x391E08 + 20, 2}}));
+  const Bytes now = oracle.Now();
+  EXPECT_THAT(Bytes(now.begin() + 0x391E08 + 20, now.begin() + 0x391E08 + 22), ElementsAre(0x21, 0x43));
+  EXPECT_THAT(Bytes(now.begin() + 0x160B84, now.begin() + 0x160B86), ElementsAre(0xAA, 0x00));
+  EXPECT_THAT(Bytes(now.begin() + 0x160B5E, now.begin() + 0x160B60), ElementsAre(0xC0, 0x00));
+}
+
+TEST_F(Form1WindowTest, AFailureIsShownAndTheWindowStaysUsable) {
+  FixtureRom fixture = EventFixtureRom("BPRE");
+  ClickOpen(fixture.path());
+  Pick(Find<QComboBox>("Combo4"), 1);
+  Type(Find<QLineEdit>("flagtxt"), "&H10000");
+  QTest::mouseClick(Find<QPushButton>("Command9"), Qt::LeftButton);
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_THAT(dialogs.messages[0].text, HasSubstr("Flag: \"&H10000\" is not a word."));
+
+  Type(Find<QLineEdit>("flagtxt"), "&H10");
+  QTest::mouseClick(Find<QPushButton>("Command9"), Qt::LeftButton);
+  EXPECT_EQ(dialogs.messages.size(), 1u);
+}
+
+TEST_F(Form1WindowTest, AnUnknownGameShowsTheUnsupportedRomDialogInsteadOfTheMainWindow) {
+  FixtureRom emerald = FixtureRom::Emerald();
+  ClickOpen(emerald.path());
+  EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("Unsupported ROM"));
+  EXPECT_FALSE(window.isVisible());
+  QWidget* form9 = shell.Window(WindowName::Form9);
+  ASSERT_NE(form9, nullptr);
+  EXPECT_TRUE(form9->isVisible());
+  EXPECT_EQ(form9->windowTitle(), "Unsupported ROM");
+
+  auto* text1 = form9->findChild<QLineEdit*>("Text1");
+  EXPECT_EQ(text1->text(), "&H000000");
+  Type(text1, "&H245EE0");
+  QTest::mouseClick(form9->findChild<QPushButton*>("Command1"), Qt::LeftButton);
+  EXPECT_TRUE(window.isVisible());
+  QTest::qWait(0);  // the closed dialog is dropped
+  EXPECT_EQ(shell.Window(WindowName::Form9), nullptr);
+  EXPECT_EQ(shell.form1().Label20, "&H245EE0");
+}
+
+TEST_F(Form1WindowTest, TheAboutBoxIsOneModelessWindow) {
+  QTest::mouseClick(Find<ImageButton>("Image5"), Qt::LeftButton);
+  QWidget* about = shell.Window(WindowName::frmAbout);
+  ASSERT_NE(about, nullptr);
+  EXPECT_EQ(about->windowTitle(), "About Tessarine");
+  EXPECT_EQ(about->findChild<QLabel*>("lblVersion")->text(), "Version 0.5.112");
+  EXPECT_EQ(about->findChild<QLabel*>("lblTitle")->text(), "Tessarine");
+  EXPECT_FALSE(about->isModal());
+  QTest::mouseClick(Find<ImageButton>("Image5"), Qt::LeftButton);
+  EXPECT_EQ(shell.Window(WindowName::frmAbout), about);
+  QTest::mouseClick(about->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+  QTest::qWait(0);
+  EXPECT_EQ(shell.Window(WindowName::frmAbout), nullptr);
 }
 
 }  // namespace

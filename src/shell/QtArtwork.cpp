@@ -1,0 +1,105 @@
+#include "shell/QtArtwork.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPolygonF>
+#include <QRadialGradient>
+#include <cmath>
+#include <numbers>
+
+namespace tessarine {
+namespace {
+
+// Warm and cool tiles, in the order the emblem's rings use them.
+const QColor kTiles[] = {QColor(0xE8, 0x6A, 0x3A), QColor(0xF2, 0xA5, 0x41), QColor(0x3B, 0x7E, 0xA1),
+                         QColor(0x5B, 0xA8, 0x8C), QColor(0xC4, 0x4D, 0x58), QColor(0x8E, 0x6C, 0xB8)};
+
+QPointF HexCorner(QPointF centre, double radius, int corner) {
+  const double angle = std::numbers::pi / 180.0 * (60.0 * corner - 90.0);
+  return centre + QPointF(radius * std::cos(angle), radius * std::sin(angle));
+}
+
+}  // namespace
+
+QPixmap EmblemPicture(int size) {
+  QPixmap picture(size, size);
+  picture.fill(Qt::transparent);
+  QPainter p(&picture);
+  p.setRenderHint(QPainter::Antialiasing);
+  const QPointF centre(size / 2.0, size / 2.0);
+  const double outer = size * 0.46;
+  // Six sectors of the hexagon, each cut into four triangles: one sector a tile colour.
+  for (int sector = 0; sector < 6; ++sector) {
+    const QPointF a = HexCorner(centre, outer, sector);
+    const QPointF b = HexCorner(centre, outer, sector + 1);
+    const QPointF ab = (a + b) / 2, ca = (centre + a) / 2, cb = (centre + b) / 2;
+    const QPolygonF tiles[] = {QPolygonF({centre, ca, cb}), QPolygonF({ca, a, ab}), QPolygonF({cb, ab, b}),
+                               QPolygonF({ca, ab, cb})};
+    for (int t = 0; t < 4; ++t) {
+      QColor colour = kTiles[(sector + (t == 3 ? 3 : 0)) % 6];
+      colour = t == 0 ? colour.lighter(130) : t == 3 ? colour.darker(115) : colour;
+      p.setPen(QPen(QColor(0xFA, 0xF6, 0xEE), size / 90.0 + 0.5));
+      p.setBrush(colour);
+      p.drawPolygon(tiles[t]);
+    }
+  }
+  p.setPen(QPen(QColor(0x2E, 0x2A, 0x33), size / 60.0 + 0.5));
+  p.setBrush(Qt::NoBrush);
+  QPolygonF hexagon;
+  for (int corner = 0; corner < 6; ++corner) hexagon << HexCorner(centre, outer, corner);
+  p.drawPolygon(hexagon);
+  return picture;
+}
+
+QIcon ApplicationIcon() {
+  QIcon icon;
+  for (const int size : {16, 32, 64, 128}) icon.addPixmap(EmblemPicture(size));
+  return icon;
+}
+
+QPixmap ButtonFace(QSize size, bool pressed) {
+  QPixmap face(size);
+  face.fill(Qt::transparent);
+  QPainter p(&face);
+  p.setRenderHint(QPainter::Antialiasing);
+  QLinearGradient fill(0, 0, 0, size.height());
+  const QColor light(0xFB, 0xF8, 0xF1), dark(0xD9, 0xCF, 0xBC);
+  fill.setColorAt(0, pressed ? dark : light);
+  fill.setColorAt(1, pressed ? light : dark);
+  const QRectF box = QRectF(face.rect()).adjusted(1, 1, -1, -1);
+  p.setPen(QPen(QColor(0x8A, 0x7D, 0x68), 1.2));
+  p.setBrush(fill);
+  p.drawRoundedRect(box, 6, 6);
+  // A strip of the emblem's colours along the bottom edge, pressed into the face when down.
+  QLinearGradient strip(box.left(), 0, box.right(), 0);
+  for (int i = 0; i < 6; ++i) strip.setColorAt(i / 5.0, kTiles[i]);
+  p.setPen(Qt::NoPen);
+  p.setBrush(strip);
+  const double y = pressed ? box.bottom() - 4.5 : box.bottom() - 4;
+  p.drawRoundedRect(QRectF(box.left() + 6, y, box.width() - 12, 2.5), 1, 1);
+  return face;
+}
+
+QPixmap BackgroundPicture(QSize size) {
+  QPixmap background(size);
+  QPainter p(&background);
+  QLinearGradient fill(0, 0, 0, size.height());
+  fill.setColorAt(0, QColor(0xF4, 0xEF, 0xE4));
+  fill.setColorAt(1, QColor(0xE3, 0xDB, 0xCB));
+  p.fillRect(background.rect(), fill);
+  // A faint band of triangles along the top, the emblem's pattern in the background.
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(Qt::NoPen);
+  const double step = 28;
+  for (int i = 0; i * step < size.width() + step; ++i) {
+    QColor colour = kTiles[i % 6];
+    colour.setAlpha(34);
+    p.setBrush(colour);
+    const double x = i * step;
+    p.drawPolygon(QPolygonF({QPointF(x, 0), QPointF(x + step, 0), QPointF(x + step / 2, step * 0.8)}));
+  }
+  return background;
+}
+
+}  // namespace tessarine

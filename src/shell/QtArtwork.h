@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QIcon>
+#include <QPixmap>
+#include <QSize>
+
+namespace tessarine {
+
+// The pictures of the windows, drawn here: no picture files, nothing from any game.
+
+// The emblem: a hexagon of triangle tiles. Image6 of the main window, the About box's
+// icon and the application icon.
+QPixmap EmblemPicture(int size);
+QIcon ApplicationIcon();
+
+// The face of the three image buttons of the main window, normal or pressed (idown).
+QPixmap ButtonFace(QSize size, bool pressed);
+
+// The main window's background (fomr1).
+QPixmap BackgroundPicture(QSize size);
+
+}  // namespace tessarine

@@ -1,0 +1,73 @@
+#include "shell/QtDialogs.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QProcess>
+#include <QStandardPaths>
+
+namespace tessarine {
+namespace {
+
+QString Q(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+
+QWidget* Owner() { return QApplication::activeWindow(); }
+
+// The sibling program: by its bare name, beside Tessarine first, then on the PATH.
+QString FindProgram(std::string_view name) {
+#ifdef Q_OS_WIN
+  const QString file = Q(name) + ".exe";
+#else
+  const QString file = Q(name);
+#endif
+  const QFileInfo beside(QDir(QCoreApplication::applicationDirPath()).filePath(file));
+  if (beside.isFile() && beside.isExecutable()) return beside.filePath();
+  return QStandardPaths::findExecutable(file);
+}
+
+}  // namespace
+
+QString QtFileFilter(std::string_view filter) {
+  const QStringList parts = Q(filter).split('|');
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    filters << parts[i] + " (" + QString(parts[i + 1]).replace(';', ' ') + ")";
+  }
+  return filters.join(";;");
+}
+
+MessageAnswer QtDialogs::Message(std::string_view text, MessageButtons buttons, std::string_view title) {
+  QMessageBox box(Owner());
+  box.setWindowTitle(Q(title));
+  box.setText(Q(text));
+  if (buttons == MessageButtons::YesNo) {
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(QMessageBox::Yes);
+    return box.exec() == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
+  }
+  box.setStandardButtons(QMessageBox::Ok);
+  box.exec();
+  return MessageAnswer::Ok;
+}
+
+std::optional<std::string> QtDialogs::Input(std::string_view prompt, std::string_view title) {
+  bool ok = false;
+  const QString answer = QInputDialog::getText(Owner(), Q(title), Q(prompt), QLineEdit::Normal, {}, &ok);
+  if (!ok) return std::nullopt;
+  return answer.toStdString();
+}
+
+std::string QtDialogs::OpenFile(std::string_view title, std::string_view filter) {
+  return QFileDialog::getOpenFileName(Owner(), Q(title), {}, QtFileFilter(filter)).toStdString();
+}
+
+bool QtDialogs::StartProgram(std::string_view name) {
+  const QString program = FindProgram(name);
+  return !program.isEmpty() && QProcess::startDetached(program, {});
+}
+
+}  // namespace tessarine

@@ -1,0 +1,112 @@
+#include "shell/QtShell.h"
+
+#include <QApplication>
+
+#include "editors/Form9Window.h"
+#include "rom/Failure.h"
+#include "shell/Form1Window.h"
+#include "shell/frmAboutWindow.h"
+
+namespace tessarine {
+
+QtShell::QtShell(Dialogs& questions)
+    : dialogs_(*this, questions), main_(std::make_unique<Form1Window>(*this)) {}
+
+QtShell::~QtShell() {
+  delete form9Window_.data();
+  delete aboutWindow_.data();
+}
+
+void QtShell::Run(const std::function<void()>& action) {
+  if (running_) {  // an action that a widget's change starts inside another one
+    action();
+    return;
+  }
+  running_ = true;
+  try {
+    action();
+  } catch (const Failure& failure) {
+    dialogs_.Message(failure.what(), MessageButtons::Ok, kDefaultTitle);
+  }
+  running_ = false;
+  RefreshAll();
+}
+
+void QtShell::RefreshAll() {
+  main_->Refresh();
+  if (form9Window_) form9Window_->Refresh();
+  if (aboutWindow_) aboutWindow_->Refresh();
+}
+
+void QtShell::ShowWindow(WindowName window) {
+  QWidget* shown = nullptr;
+  switch (window) {
+    case WindowName::Form1:
+      shown = main_.get();
+      break;
+    case WindowName::Form9:
+      if (!form9Window_) {
+        form9_ = Form9{};  // the dialog starts afresh each time it loads
+        form9Window_ = new Form9Window(*this, form9_);
+      }
+      shown = form9Window_;
+      break;
+    case WindowName::frmAbout:
+      if (!aboutWindow_) {
+        about_ = frmAbout{};
+        LoadAbout(about_);
+        aboutWindow_ = new frmAboutWindow(*this, about_);
+      }
+      shown = aboutWindow_;
+      break;
+    default:  // the tool windows come with their tools
+      return;
+  }
+  shown->show();
+  shown->raise();
+  shown->activateWindow();
+}
+
+void QtShell::HideWindow(WindowName window) {
+  switch (window) {
+    case WindowName::Form1:
+      main_->hide();
+      break;
+    case WindowName::Form9:
+      if (form9Window_) form9Window_->close();  // closing drops it; it loads afresh next time
+      break;
+    case WindowName::frmAbout:
+      if (aboutWindow_) aboutWindow_->close();
+      break;
+    default:
+      break;
+  }
+}
+
+QWidget* QtShell::Window(WindowName window) const {
+  switch (window) {
+    case WindowName::Form1: return main_.get();
+    case WindowName::Form9: return form9Window_;
+    case WindowName::frmAbout: return aboutWindow_;
+    default: return nullptr;
+  }
+}
+
+void QtShell::End() {
+  rom_.Close();
+  if (form9Window_) form9Window_->deleteLater();
+  if (aboutWindow_) aboutWindow_->close();
+  QCoreApplication::quit();
+}
+
+void QtShell::WindowDialogs::Show(WindowName window) {
+  questions_.Show(window);
+  shell_.ShowWindow(window);
+}
+
+void QtShell::WindowDialogs::Hide(WindowName window) {
+  questions_.Hide(window);
+  shell_.HideWindow(window);
+}
+
+}  // namespace tessarine

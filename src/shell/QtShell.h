@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <functional>
+#include <memory>
+
+#include "editors/Form9.h"
+#include "rom/RomImage.h"
+#include "shell/Dialogs.h"
+#include "shell/Form1.h"
+#include "shell/ToolsMenu.h"
+#include "shell/frmAbout.h"
+
+class QWidget;
+
+namespace tessarine {
+
+class Form1Window;
+class Form9Window;
+class frmAboutWindow;
+
+// The running program: the one RomImage, the main window's record and every window.
+// Each action of a person starts in Run, the one place where a Failure is caught and its
+// sentence shown; after the action every open window shows its record afresh.
+class QtShell : public QObject {
+  Q_OBJECT
+
+ public:
+  // `questions` answers message, input and file dialogs and starts programs: Qt's real
+  // dialogs in the program, a script in tests. Windows are this shell's own.
+  explicit QtShell(Dialogs& questions);
+  ~QtShell() override;
+
+  Form1& form1() { return form1_; }
+  Form7& form7() { return form7_; }
+  RomImage& rom() { return rom_; }
+  Dialogs& dialogs() { return dialogs_; }
+
+  void Run(const std::function<void()>& action);
+  void RefreshAll();
+
+  void ShowWindow(WindowName window);
+  void HideWindow(WindowName window);
+  // The window while it exists, else null.
+  QWidget* Window(WindowName window) const;
+  Form1Window& mainWindow() { return *main_; }
+
+  // The main window was closed: the file is closed and the program ends.
+  void End();
+
+ private:
+  // The core's Dialogs: questions go to `questions`, windows to the shell.
+  class WindowDialogs : public Dialogs {
+   public:
+    WindowDialogs(QtShell& shell, Dialogs& questions) : shell_(shell), questions_(questions) {}
+    MessageAnswer Message(std::string_view text, MessageButtons buttons, std::string_view title) override {
+      return questions_.Message(text, buttons, title);
+    }
+    std::optional<std::string> Input(std::string_view prompt, std::string_view title) override {
+      return questions_.Input(prompt, title);
+    }
+    std::string OpenFile(std::string_view title, std::string_view filter) override {
+      return questions_.OpenFile(title, filter);
+    }
+    void Show(WindowName window) override;
+    void Hide(WindowName window) override;
+    bool StartProgram(std::string_view name) override { return questions_.StartProgram(name); }
+
+   private:
+    QtShell& shell_;
+    Dialogs& questions_;
+  };
+
+  WindowDialogs dialogs_;
+  RomImage rom_;
+  Form1 form1_;
+  Form7 form7_;
+  Form9 form9_;
+  frmAbout about_;
+  std::unique_ptr<Form1Window> main_;
+  QPointer<Form9Window> form9Window_;
+  QPointer<frmAboutWindow> aboutWindow_;
+  bool running_ = false;
+};
+
+}  // namespace tessarine
