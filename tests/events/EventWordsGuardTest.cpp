@@ -2,12 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "events/EventSelection.h"
-#include "events/PersonRecord.h"
-#include "rom/OpenRom.h"
-#include "rom/RomImage.h"
-#include "shell/Form1.h"
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
+#include "support/MainSession.h"
 #include "support/ScriptedDialogs.h"
 
 namespace tessarine {
@@ -16,7 +13,6 @@ namespace {
 using test::ByteOracle;
 using test::ByteRange;
 using test::FixtureRom;
-using test::ScriptedDialogs;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -25,16 +21,12 @@ using Ranges = std::vector<ByteRange>;
 constexpr std::uint32_t kScript = 0xB00000;
 
 // A game whose chosen event's person points at a script that we lay out ourselves.
-struct ScriptSession {
+struct ScriptSession : test::MainSession {
   FixtureRom fixture;
-  Form1 form;
-  RomImage rom;
-  ScriptedDialogs dialogs;
 
   ScriptSession(std::string_view code, std::uint32_t person, const Bytes& script) : fixture(test::EventFixtureRom(code)) {
     fixture.PutLong(person + 16, kScript + 0x08000000).PutBytes(kScript, script);
-    dialogs.openFileAnswers.push_back(fixture.path());
-    OpenRom(form, rom, dialogs);
+    Open(fixture.path());
   }
 };
 
@@ -50,12 +42,12 @@ Bytes BuilderBattle(std::uint16_t species, std::uint16_t crySpecies) {
 
 TEST(EventWordsGuardTest, AWordThatIsNoSpeciesNumberIsLeftAsItIsAndTheSaveSaysSo) {
   ScriptSession s("AXVE", 0x38EE50, BuilderBattle(0x196, 0x196));
-  SetCombo3Selection(s.form, s.rom, s.dialogs, 1);  // Rayquaza
+  s.PickEvent(1);  // Rayquaza
   EXPECT_EQ(s.form.Combo1.selected, 0x196);  // the first word is right and stays editable
 
   const ByteOracle oracle(s.fixture.path());
   SetCombo1Selection(s.form, 0x0AB);
-  SavePerson(s.form, s.rom, s.dialogs);
+  s.Save();
 
   EXPECT_EQ(oracle.Changes(), (Ranges{{kScript + 3, 2}}));
   const Bytes now = oracle.Now();
@@ -74,12 +66,12 @@ TEST(EventWordsGuardTest, MewtwosCryOneByteBehindItsPlaceIsLeftAsItIs) {
   script[21] = 0x96;
   script[41] = 0x96;
   ScriptSession s("BPRE", 0x3B177C, script);
-  SetCombo4Selection(s.form, s.rom, s.dialogs, 4);
+  s.PickEvent(4);
   EXPECT_EQ(s.form.Combo1.selected, 0x96);
 
   const ByteOracle oracle(s.fixture.path());
   SetCombo1Selection(s.form, 0x0C2);
-  SavePerson(s.form, s.rom, s.dialogs);
+  s.Save();
 
   EXPECT_EQ(oracle.Changes(), (Ranges{{kScript + 41, 1}}));
   EXPECT_EQ(oracle.Now()[kScript + 41], 0xC2);
@@ -96,11 +88,11 @@ TEST(EventWordsGuardTest, SpeciesNumbersAtBothPlacesAreWrittenAsAlwaysWithNoMess
   script[8] = 0x9B;  // second word 0x019B, the last species
   script[9] = 0x01;
   ScriptSession s("AXPE", 0x38EDE0, script);
-  SetCombo3Selection(s.form, s.rom, s.dialogs, 1);
+  s.PickEvent(1);
 
   const ByteOracle oracle(s.fixture.path());
   SetCombo1Selection(s.form, 0x0AB);
-  SavePerson(s.form, s.rom, s.dialogs);
+  s.Save();
 
   EXPECT_EQ(oracle.Changes(), (Ranges{{kScript + 3, 1}, {kScript + 8, 2}}));
   EXPECT_THAT(s.dialogs.messages, IsEmpty());
@@ -108,10 +100,10 @@ TEST(EventWordsGuardTest, SpeciesNumbersAtBothPlacesAreWrittenAsAlwaysWithNoMess
 
 TEST(EventWordsGuardTest, BothWordsLeftAloneAreNamedInOneMessage) {
   ScriptSession s("AXVE", 0x38EE50, BuilderBattle(0x196, 0x196));
-  SetCombo3Selection(s.form, s.rom, s.dialogs, 1);
+  s.PickEvent(1);
   s.form.scriptpointxt.text = "&HB00100";  // nothing but 0xFF there
   const ByteOracle oracle(s.fixture.path());
-  SavePerson(s.form, s.rom, s.dialogs);
+  s.Save();
   EXPECT_THAT(oracle.Changes(), IsEmpty());
   EXPECT_THAT(s.dialogs.MessageTexts(),
               ElementsAre("The Pokemon and Cry words were left as they are: at &HB00103 stands &HFFFF and at "

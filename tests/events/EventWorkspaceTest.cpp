@@ -11,6 +11,7 @@
 #include "shell/Form1.h"
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
+#include "support/MainSession.h"
 #include "support/ScriptedDialogs.h"
 
 namespace tessarine {
@@ -30,37 +31,11 @@ using ::testing::IsEmpty;
 
 using Ranges = std::vector<ByteRange>;
 
-// A person's session with the main window on one fixture ROM.
-struct Session {
+// A session on a fixture ROM of its own, opened as the Open button does.
+struct Session : test::MainSession {
   FixtureRom fixture;
-  Form1 form;
-  RomImage rom;
-  ScriptedDialogs dialogs;
-
-  // Opens the fixture as the Open button does.
   explicit Session(FixtureRom rom_) : fixture(std::move(rom_)) { Open(); }
-
-  void Open() {
-    dialogs.openFileAnswers.push_back(fixture.path());
-    OpenRom(form, rom, dialogs);
-  }
-  void PickEvent(int index) {
-    if (form.cowmoo == "rs") {
-      SetCombo3Selection(form, rom, dialogs, index);
-    } else {
-      SetCombo4Selection(form, rom, dialogs, index);
-    }
-  }
-  void Save() { SavePerson(form, rom, dialogs); }
-  // The sentence of the failure that ends a save, or "" when it ran through.
-  std::string SaveFailure() {
-    try {
-      Save();
-    } catch (const Failure& failure) {
-      return failure.what();
-    }
-    return "";
-  }
+  void Open() { MainSession::Open(fixture.path()); }
 };
 
 Session Opened(std::string_view code) { return Session(EventFixtureRom(code)); }

@@ -6,6 +6,7 @@
 #include "rom/RomImage.h"
 #include "shell/Form1.h"
 #include "support/EventFixtures.h"
+#include "support/MainSession.h"
 #include "support/ScriptedDialogs.h"
 
 namespace tessarine {
@@ -20,17 +21,7 @@ using ::testing::IsEmpty;
 
 using Window = ScriptedDialogs::WindowEvent;
 
-// The main window, its file and its dialogs, as a person's road through them needs.
-struct Session {
-  Form1 form;
-  RomImage rom;
-  ScriptedDialogs dialogs;
-
-  void Open(const std::string& path) {
-    dialogs.openFileAnswers.push_back(path);
-    OpenRom(form, rom, dialogs);
-  }
-};
+using Session = test::MainSession;
 
 TEST(OpenRomTest, AKnownGameSetsTheWindowUpForItsFamily) {
   struct Row {

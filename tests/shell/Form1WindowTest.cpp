@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,6 +13,7 @@
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
 #include "support/ScriptedDialogs.h"
+#include "support/WidgetDriver.h"
 
 namespace tessarine {
 namespace {
@@ -22,25 +22,12 @@ using test::ByteOracle;
 using test::ByteRange;
 using test::EventFixtureRom;
 using test::FixtureRom;
+using test::Pick;
 using test::ScriptedDialogs;
+using test::Type;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-// Picks a row of a drop-down list as a person does: opens it and clicks the row.
-void Pick(QComboBox* combo, int row) {
-  combo->showPopup();
-  QAbstractItemView* list = combo->view();
-  const QModelIndex index = list->model()->index(row, combo->modelColumn());
-  list->scrollTo(index);
-  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
-}
-
-void Type(QLineEdit* field, const QString& text) {
-  field->setFocus();
-  field->selectAll();
-  QTest::keyClicks(field, text);
-}
 
 class Form1WindowTest : public ::testing::Test {
  protected:

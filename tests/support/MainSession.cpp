@@ -1,0 +1,34 @@
+#include "support/MainSession.h"
+
+#include "events/EventSelection.h"
+#include "events/PersonRecord.h"
+#include "rom/Failure.h"
+#include "rom/OpenRom.h"
+
+namespace tessarine::test {
+
+void MainSession::Open(const std::string& path) {
+  dialogs.openFileAnswers.push_back(path);
+  OpenRom(form, rom, dialogs);
+}
+
+void MainSession::PickEvent(int index) {
+  if (form.cowmoo == "rs") {
+    SetCombo3Selection(form, rom, dialogs, index);
+  } else {
+    SetCombo4Selection(form, rom, dialogs, index);
+  }
+}
+
+void MainSession::Save() { SavePerson(form, rom, dialogs); }
+
+std::string MainSession::SaveFailure() {
+  try {
+    Save();
+  } catch (const Failure& failure) {
+    return failure.what();
+  }
+  return "";
+}
+
+}  // namespace tessarine::test
