@@ -3,7 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
+#include <QMenu>
+#include <QTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -131,6 +134,23 @@ TEST_F(Form1WindowTest, AnUnknownGameShowsTheUnsupportedRomDialogInsteadOfTheMai
   QTest::qWait(0);  // the closed dialog is dropped
   EXPECT_EQ(shell.Window(WindowName::Form9), nullptr);
   EXPECT_EQ(shell.form1().Label20, "&H245EE0");
+}
+
+TEST_F(Form1WindowTest, TheRightButtonOnTheBackgroundOpensTheToolsMenuWithNoRomOpen) {
+  QStringList entries;
+  QTimer::singleShot(0, [&] {
+    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+      for (const QAction* action : menu->actions()) entries << action->text();
+      const QList<QAction*> actions = menu->actions();
+      menu->setActiveAction(actions.last());  // Kindlewick, started by name
+      QTest::keyClick(menu, Qt::Key_Return);
+    }
+  });
+  QTest::mouseClick(&window, Qt::RightButton, {}, QPoint(300, 250));
+  EXPECT_EQ(entries.size(), 10);
+  EXPECT_EQ(entries.value(1), "Insert Wild Battle Script");
+  EXPECT_THAT(dialogs.programsStarted, ElementsAre("Kindlewick"));
+  EXPECT_THAT(dialogs.messages, IsEmpty());  // not being able to start it passes in silence
 }
 
 TEST_F(Form1WindowTest, TheAboutBoxIsOneModelessWindow) {
