@@ -1,8 +1,12 @@
 #include "shell/LinedTextBoxWidget.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPlainTextDocumentLayout>
+#include <QPointer>
 #include <QTextBlock>
 
 namespace tessarine {
@@ -59,6 +63,38 @@ void LinedTextBoxWidget::EnableLineNumbers(bool enable, int numDigits) {
     on_ = false;
   }
   LayOutTray();
+}
+
+bool LinedTextBoxWidget::SetPlainTextInSteps(const QString& text,
+                                             const std::function<bool(double fractionDone)>& progress) {
+  // About 40,000 lines of a listing a part: a tenth of a second or so.
+  constexpr qsizetype kPartSize = qsizetype{1} << 19;
+  // The text goes into a document of its own, which the box takes over only when it is
+  // complete; a cancel drops it.
+  auto* next = new QTextDocument(this);
+  next->setDefaultFont(font());
+  next->setUndoRedoEnabled(false);
+  QTextCursor end(next);
+  for (qsizetype from = 0; from < text.size();) {
+    // Parts end behind a line break, so that no CR LF is torn apart.
+    qsizetype to = text.indexOf(QLatin1Char('\n'), std::min(from + kPartSize, text.size() - 1));
+    to = to < 0 ? text.size() : to + 1;
+    end.insertText(text.mid(from, to - from));
+    from = to;
+    if (progress && !progress(static_cast<double>(from) / static_cast<double>(text.size()))) {
+      delete next;
+      return false;
+    }
+  }
+  next->setUndoRedoEnabled(true);
+  next->setModified(false);
+  // The layout comes last: it would go over the lines of each part as they came.
+  next->setDocumentLayout(new QPlainTextDocumentLayout(next));
+  // The box deletes a document of its own making when it takes another; one of ours, we do.
+  const QPointer<QTextDocument> previous = document();
+  setDocument(next);
+  if (previous && previous->parent() == this) delete previous;
+  return true;
 }
 
 // The text view gives up TrayWidth pixels on its left to the strip.

@@ -2,6 +2,7 @@
 
 #include <QPlainTextEdit>
 
+#include <functional>
 #include <optional>
 
 #include "shell/modLinedTextBox.h"
@@ -25,6 +26,11 @@ class LinedTextBoxWidget : public QPlainTextEdit {
   // Puts the gutter on or takes it off. Turning it on when it is already on changes
   // nothing, not even NumDigits. `numDigits` 0 means 4.
   void EnableLineNumbers(bool enable, int numDigits);
+
+  // Replaces the text as setPlainText does, but a part at a time, telling `progress` how far
+  // it has come after each part; so a text of a million lines can show a progress dialog and
+  // be cancelled. False, with the box as it was, when `progress` cancels.
+  bool SetPlainTextInSteps(const QString& text, const std::function<bool(double fractionDone)>& progress);
 
   bool LineNumbersOn() const { return on_; }
   int NumDigits() const { return numDigits_; }

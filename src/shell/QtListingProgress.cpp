@@ -20,11 +20,11 @@ QtListingProgress::QtListingProgress(QWidget* parent)
   dialog_.setValue(0);  // the half second counts from here
 }
 
-ListingProgress QtListingProgress::Callback() {
-  return [this](double fractionDone) {
+ListingProgress QtListingProgress::Callback(double first, double last) {
+  return [this, first, last](double fractionDone) {
     // Once shown, each step also lets the dialog take the press of Cancel; at the last step
     // it closes itself.
-    dialog_.setValue(static_cast<int>(std::lround(fractionDone * kSteps)));
+    dialog_.setValue(static_cast<int>(std::lround((first + (last - first) * fractionDone) * kSteps)));
     return !dialog_.wasCanceled();
   };
 }

@@ -3,12 +3,15 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace tessarine {
 namespace {
@@ -177,6 +180,35 @@ TEST_F(LinedTextBoxWidgetTest, APressInTheGutterReachesTheText) {
   EXPECT_EQ(TintedLines(Painted()), (std::vector<int>{2, 3, 4, 5, 6}));
   EXPECT_EQ(box_->textCursor().selectedText().toStdString(),
             "line 2\u2029line 3\u2029line 4\u2029line 5\u2029");
+}
+
+TEST_F(LinedTextBoxWidgetTest, ALongTextSetInStepsShowsAsAWholeOrNotAtAll) {
+  const QString text = Lines(100000) + "\r\n";
+  std::vector<double> told;
+  ASSERT_TRUE(box_->SetPlainTextInSteps(text, [&](double done) {
+    told.push_back(done);
+    return true;
+  }));
+  EXPECT_EQ(box_->toPlainText(), QString(text).replace("\r\n", "\n"));
+  EXPECT_EQ(box_->blockCount(), 100001);
+  EXPECT_GT(told.size(), 1u);
+  EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+  EXPECT_EQ(told.back(), 1.0);
+  EXPECT_EQ(box_->lineWrapMode(), QPlainTextEdit::NoWrap);
+  EXPECT_EQ(Painted().rows.front().number, "0001");
+  QTest::keyClick(box_, Qt::Key_Z, Qt::ControlModifier);  // nothing to undo: the text stays
+  EXPECT_EQ(box_->blockCount(), 100001);
+
+  int steps = 0;
+  EXPECT_FALSE(box_->SetPlainTextInSteps("another text", [&](double) { return ++steps < 1; }));
+  EXPECT_FALSE(box_->SetPlainTextInSteps(Lines(100000), [&](double) { return ++steps < 3; }));
+  EXPECT_EQ(box_->blockCount(), 100001);
+  EXPECT_TRUE(box_->toPlainText().startsWith("line 1\nline 2\n"));
+
+  const QPointer<QTextDocument> replaced = box_->document();
+  ASSERT_TRUE(box_->SetPlainTextInSteps("lock\r\n", {}));
+  EXPECT_TRUE(replaced.isNull());  // the box keeps no text it no longer shows
+  EXPECT_EQ(box_->toPlainText(), "lock\n");
 }
 
 }  // namespace
