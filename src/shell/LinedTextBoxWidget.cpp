@@ -1,0 +1,200 @@
+#include "shell/LinedTextBoxWidget.h"
+
+#include <algorithm>
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPlainTextDocumentLayout>
+#include <QPointer>
+#include <QTextBlock>
+
+namespace tessarine {
+namespace {
+
+Rgb ToRgb(const QColor& color) {
+  return {static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),
+          static_cast<std::uint8_t>(color.blue())};
+}
+
+QColor ToQColor(Rgb color) { return QColor(color.red, color.green, color.blue); }
+
+QRect ToQRect(const PixelRect& r) { return QRect(r.left, r.top, r.right - r.left, r.bottom - r.top); }
+
+}  // namespace
+
+// The strip: paints through its box and hands the mouse on to the text.
+class LinedTextBoxWidget::GutterArea : public QWidget {
+ public:
+  explicit GutterArea(LinedTextBoxWidget* box) : QWidget(box), box_(box) {}
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    box_->PaintGutter(painter);
+  }
+  void mousePressEvent(QMouseEvent* event) override { box_->ForwardToText(event); }
+  void mouseMoveEvent(QMouseEvent* event) override { box_->ForwardToText(event); }
+  void mouseReleaseEvent(QMouseEvent* event) override { box_->ForwardToText(event); }
+  void mouseDoubleClickEvent(QMouseEvent* event) override { box_->ForwardToText(event); }
+  // Wheel events are not taken here, so they reach the box and scroll it.
+
+ private:
+  LinedTextBoxWidget* box_;
+};
+
+LinedTextBoxWidget::LinedTextBoxWidget(QWidget* parent)
+    : QPlainTextEdit(parent), gutter_(new GutterArea(this)) {
+  setLineWrapMode(QPlainTextEdit::NoWrap);
+  gutter_->setVisible(false);
+  // Every paint of the text (a key, a scroll, a change of text) and every move of the caret
+  // or the selection (a click, a drag step, a selection made by the program) paints the
+  // gutter too.
+  connect(this, &QPlainTextEdit::updateRequest, gutter_, [this] { gutter_->update(); });
+  connect(this, &QPlainTextEdit::cursorPositionChanged, gutter_, [this] { gutter_->update(); });
+  connect(this, &QPlainTextEdit::selectionChanged, gutter_, [this] { gutter_->update(); });
+}
+
+void LinedTextBoxWidget::EnableLineNumbers(bool enable, int numDigits) {
+  if (enable && !on_) {
+    on_ = true;
+    numDigits_ = numDigits;
+  } else if (!enable && on_) {
+    on_ = false;
+  }
+  LayOutTray();
+}
+
+bool LinedTextBoxWidget::SetPlainTextInSteps(const QString& text,
+                                             const std::function<bool(double fractionDone)>& progress) {
+  // About 40,000 lines of a listing a part: a tenth of a second or so.
+  constexpr qsizetype kPartSize = qsizetype{1} << 19;
+  // The text goes into a document of its own, which the box takes over only when it is
+  // complete; a cancel drops it.
+  auto* next = new QTextDocument(this);
+  next->setDefaultFont(font());
+  next->setUndoRedoEnabled(false);
+  QTextCursor end(next);
+  for (qsizetype from = 0; from < text.size();) {
+    // Parts end behind a line break, so that no CR LF is torn apart.
+    qsizetype to = text.indexOf(QLatin1Char('\n'), std::min(from + kPartSize, text.size() - 1));
+    to = to < 0 ? text.size() : to + 1;
+    end.insertText(text.mid(from, to - from));
+    from = to;
+    if (progress && !progress(static_cast<double>(from) / static_cast<double>(text.size()))) {
+      delete next;
+      return false;
+    }
+  }
+  next->setUndoRedoEnabled(true);
+  next->setModified(false);
+  // The layout comes last: it would go over the lines of each part as they came.
+  next->setDocumentLayout(new QPlainTextDocumentLayout(next));
+  // The box deletes a document of its own making when it takes another; one of ours, we do.
+  const QPointer<QTextDocument> previous = document();
+  setDocument(next);
+  if (previous && previous->parent() == this) delete previous;
+  return true;
+}
+
+// The text view gives up TrayWidth pixels on its left to the strip.
+void LinedTextBoxWidget::LayOutTray() {
+  const QString zeros(EffectiveNumDigits(numDigits_), QLatin1Char('0'));
+  digitsWidth_ = fontMetrics().horizontalAdvance(zeros);
+  trayWidth_ = on_ ? tessarine::TrayWidth(digitsWidth_) : 0;
+  setViewportMargins(trayWidth_, 0, 0, 0);
+  gutter_->setVisible(on_);
+  PlaceGutter();
+  gutter_->update();
+}
+
+// Beside the text view and as high as it, so that a row and its text line share their y.
+void LinedTextBoxWidget::PlaceGutter() {
+  const QRect view = viewport()->geometry();
+  gutter_->setGeometry(view.left() - trayWidth_, view.top(), trayWidth_, view.height());
+}
+
+GutterInput LinedTextBoxWidget::MeasureGutter() const {
+  GutterInput in;
+  in.numDigits = numDigits_;
+  in.digitsWidth = digitsWidth_;
+  in.boxHeight = height();
+  in.edge = frameWidth();
+  const QTextBlock first = firstVisibleBlock();
+  const QRectF firstGeometry = blockBoundingGeometry(first).translated(contentOffset());
+  // One block is one line, since lines do not wrap; every line has the box's one font.
+  in.lineHeight = qRound(firstGeometry.height());
+  in.firstLineTop = qRound(firstGeometry.top());
+  in.firstLine = first.blockNumber() + 1;
+  in.lineCount = blockCount();
+  const QTextCursor cursor = textCursor();
+  in.selFirst = document()->findBlock(cursor.selectionStart()).blockNumber() + 1;
+  in.selLast = document()->findBlock(cursor.selectionEnd()).blockNumber() + 1;
+  in.focus = hasFocus();
+  // The system colours of the gutter's roles. Button shadow is QPalette::Dark: the role
+  // that the platforms with a system colour scheme fill from their button shadow colour,
+  // darker than Mid and lighter than Shadow.
+  const QPalette& colors = palette();
+  in.colors = {ToRgb(colors.color(QPalette::Button)), ToRgb(colors.color(QPalette::WindowText)),
+               ToRgb(colors.color(QPalette::Highlight)), ToRgb(colors.color(QPalette::Dark))};
+  return in;
+}
+
+void LinedTextBoxWidget::PaintGutter(QPainter& painter) {
+  if (!on_) return;
+  const GutterPaint& plan = lastPaint_.emplace(PlanGutterPaint(MeasureGutter()));
+  ++paints_;
+
+  painter.fillRect(QRect(0, 0, plan.trayWidth, gutter_->height()), ToQColor(plan.face));
+  painter.setFont(font());
+  for (const GutterRow& row : plan.rows) {
+    const QRect rect = ToQRect(row.rect);
+    if (row.tinted) painter.fillRect(rect, ToQColor(plan.tint));
+    painter.setPen(ToQColor(plan.numberColor));
+    painter.drawText(rect, Qt::AlignCenter | Qt::TextSingleLine, QString::fromStdString(row.number));
+  }
+  if (plan.frame) {
+    // A pen of one pixel outlines one pixel more than the rectangle's size on the right and
+    // at the bottom; the plan's rectangle is half-open.
+    painter.setPen(ToQColor(plan.frameColor));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(ToQRect(*plan.frame).adjusted(0, 0, -1, -1));
+  }
+  if (plan.line && plan.line->bottom > plan.line->top) {
+    painter.setPen(ToQColor(plan.lineColor));
+    painter.drawLine(plan.line->x, plan.line->top, plan.line->x, plan.line->bottom - 1);
+  }
+}
+
+// A press in the strip is a press in the text at a point left of it, as far left as the
+// strip lies; so it reaches the text box and takes its focus.
+void LinedTextBoxWidget::ForwardToText(QMouseEvent* event) {
+  const QPointF at = event->position() + QPointF(gutter_->pos() - viewport()->pos());
+  QMouseEvent forwarded(event->type(), at, event->globalPosition(), event->button(), event->buttons(),
+                        event->modifiers(), event->pointingDevice());
+  QCoreApplication::sendEvent(viewport(), &forwarded);
+  event->setAccepted(forwarded.isAccepted());
+}
+
+void LinedTextBoxWidget::resizeEvent(QResizeEvent* event) {
+  QPlainTextEdit::resizeEvent(event);  // also told when the text view alone changes size
+  PlaceGutter();
+}
+
+void LinedTextBoxWidget::changeEvent(QEvent* event) {
+  QPlainTextEdit::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) LayOutTray();
+  if (event->type() == QEvent::PaletteChange) gutter_->update();
+}
+
+void LinedTextBoxWidget::focusInEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusInEvent(event);
+  gutter_->update();
+}
+
+void LinedTextBoxWidget::focusOutEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusOutEvent(event);
+  gutter_->update();
+}
+
+}  // namespace tessarine
