@@ -317,11 +317,10 @@ std::optional<std::string> ListScript(RomImage& rom, Dialogs& dialogs, std::stri
   }
 }
 
-bool ListIntoText4(Form1& form, RomImage& rom, Dialogs& dialogs, const ListingProgress& progress,
-                   const ListingShow& show) {
+bool ListIntoText4(Form1& form, RomImage& rom, Dialogs& dialogs, const ListingProgress& progress) {
   std::optional<std::string> listing =
       ListScript(rom, dialogs, form.Text3.text, form.Check1.checked, progress);
-  if (!listing || (show && !show(*listing))) return false;
+  if (!listing) return false;
   form.Text4.text = std::move(*listing);
   return true;
 }

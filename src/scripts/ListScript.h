@@ -30,14 +30,9 @@ using ListingProgress = std::function<bool(double fractionDone)>;
 std::optional<std::string> ListScript(RomImage& rom, Dialogs& dialogs, std::string_view offsetText,
                                       bool brailleMode, const ListingProgress& progress = {});
 
-// Given the whole listing before Text4 takes it, for a view that shows it while it may still
-// be cancelled; answers false when it was.
-using ListingShow = std::function<bool(const std::string& listing)>;
-
 // The press of Command2 ("Load"): lists from the offset in Text3, in the mode of Check1,
-// hands the whole listing to `show`, and then puts it into Text4. A refused offset, a
-// cancel or a Failure leaves Text4 as it was. True when Text4 was replaced.
-bool ListIntoText4(Form1& form, RomImage& rom, Dialogs& dialogs, const ListingProgress& progress = {},
-                   const ListingShow& show = {});
+// and puts the whole listing into Text4. A refused offset, a cancel or a Failure leaves
+// Text4 as it was. True when Text4 was replaced.
+bool ListIntoText4(Form1& form, RomImage& rom, Dialogs& dialogs, const ListingProgress& progress = {});
 
 }  // namespace tessarine

@@ -44,8 +44,10 @@ class LinedTextBoxWidget::GutterArea : public QWidget {
 };
 
 LinedTextBoxWidget::LinedTextBoxWidget(QWidget* parent)
-    : QPlainTextEdit(parent), gutter_(new GutterArea(this)) {
+    : QPlainTextEdit(parent), gutter_(new GutterArea(this)), fillTimer_(new QTimer(this)) {
   setLineWrapMode(QPlainTextEdit::NoWrap);
+  fillTimer_->setInterval(0);  // a part whenever the program has nothing else to do
+  connect(fillTimer_, &QTimer::timeout, this, &LinedTextBoxWidget::AppendPart);
   gutter_->setVisible(false);
   // Every paint of the text (a key, a scroll, a change of text) and every move of the caret
   // or the selection (a click, a drag step, a selection made by the program) paints the
@@ -65,36 +67,62 @@ void LinedTextBoxWidget::EnableLineNumbers(bool enable, int numDigits) {
   LayOutTray();
 }
 
-bool LinedTextBoxWidget::SetPlainTextInSteps(const QString& text,
-                                             const std::function<bool(double fractionDone)>& progress) {
-  // About 40,000 lines of a listing a part: a tenth of a second or so.
-  constexpr qsizetype kPartSize = qsizetype{1} << 19;
-  // The text goes into a document of its own, which the box takes over only when it is
-  // complete; a cancel drops it.
+namespace {
+
+// About 5,000 lines of a listing: a part takes some 15 ms to add, short enough for the box
+// to answer a key or a scroll between two parts.
+constexpr qsizetype kPartSize = qsizetype{1} << 16;
+
+// Where the part of `text` that starts at `from` ends: behind a line break, so that no
+// CR LF is torn apart, or at the end of the text.
+qsizetype PartEnd(const QString& text, qsizetype from) {
+  if (text.size() - from <= kPartSize) return text.size();
+  const qsizetype lineEnd = text.indexOf(QLatin1Char('\n'), from + kPartSize);
+  return lineEnd < 0 ? text.size() : lineEnd + 1;
+}
+
+}  // namespace
+
+void LinedTextBoxWidget::ShowPlainText(const QString& text) {
+  fillTimer_->stop();
   auto* next = new QTextDocument(this);
   next->setDefaultFont(font());
-  next->setUndoRedoEnabled(false);
-  QTextCursor end(next);
-  for (qsizetype from = 0; from < text.size();) {
-    // Parts end behind a line break, so that no CR LF is torn apart.
-    qsizetype to = text.indexOf(QLatin1Char('\n'), std::min(from + kPartSize, text.size() - 1));
-    to = to < 0 ? text.size() : to + 1;
-    end.insertText(text.mid(from, to - from));
-    from = to;
-    if (progress && !progress(static_cast<double>(from) / static_cast<double>(text.size()))) {
-      delete next;
-      return false;
-    }
-  }
-  next->setUndoRedoEnabled(true);
-  next->setModified(false);
-  // The layout comes last: it would go over the lines of each part as they came.
+  next->setUndoRedoEnabled(false);  // until it is complete: the filling is no edit to undo
   next->setDocumentLayout(new QPlainTextDocumentLayout(next));
+  fillFrom_ = PartEnd(text, 0);
+  QTextCursor(next).insertText(text.left(fillFrom_));
+  filling_ = fillFrom_ < text.size() ? text : QString();
   // The box deletes a document of its own making when it takes another; one of ours, we do.
   const QPointer<QTextDocument> previous = document();
   setDocument(next);
   if (previous && previous->parent() == this) delete previous;
-  return true;
+  if (Filling()) {
+    fillTimer_->start();
+  } else {
+    CompleteFilling();
+  }
+}
+
+void LinedTextBoxWidget::AppendPart() {
+  const qsizetype to = PartEnd(filling_, fillFrom_);
+  QTextCursor end(document());
+  end.movePosition(QTextCursor::End);
+  end.insertText(filling_.mid(fillFrom_, to - fillFrom_));
+  fillFrom_ = to;
+  if (!Filling()) CompleteFilling();
+}
+
+void LinedTextBoxWidget::FinishFilling() {
+  while (Filling()) AppendPart();
+}
+
+void LinedTextBoxWidget::CompleteFilling() {
+  fillTimer_->stop();
+  filling_.clear();
+  fillFrom_ = 0;
+  document()->setUndoRedoEnabled(true);
+  document()->setModified(false);
+  emit Filled();
 }
 
 // The text view gives up TrayWidth pixels on its left to the strip.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <QTimer>
 
 #include <functional>
 #include <optional>
@@ -20,6 +21,10 @@ namespace tessarine {
 class LinedTextBoxWidget : public QPlainTextEdit {
   Q_OBJECT
 
+ signals:
+  // The last text shown is all in the box.
+  void Filled();
+
  public:
   explicit LinedTextBoxWidget(QWidget* parent = nullptr);
 
@@ -27,10 +32,15 @@ class LinedTextBoxWidget : public QPlainTextEdit {
   // nothing, not even NumDigits. `numDigits` 0 means 4.
   void EnableLineNumbers(bool enable, int numDigits);
 
-  // Replaces the text as setPlainText does, but a part at a time, telling `progress` how far
-  // it has come after each part; so a text of a million lines can show a progress dialog and
-  // be cancelled. False, with the box as it was, when `progress` cancels.
-  bool SetPlainTextInSteps(const QString& text, const std::function<bool(double fractionDone)>& progress);
+  // Replaces the text as setPlainText does, but shows its start at once and adds the rest a
+  // part at a time while the program waits for input, so that a listing of a million lines
+  // is on screen at once and the box answers scrolling and typing while it fills. A new text
+  // stops the filling of the one before.
+  void ShowPlainText(const QString& text);
+  // True while parts of the last text are still to come.
+  bool Filling() const { return fillFrom_ < filling_.size(); }
+  // Adds what is still to come at once.
+  void FinishFilling();
 
   bool LineNumbersOn() const { return on_; }
   int NumDigits() const { return numDigits_; }
@@ -55,6 +65,8 @@ class LinedTextBoxWidget : public QPlainTextEdit {
   GutterInput MeasureGutter() const;
   void PaintGutter(QPainter& painter);
   void ForwardToText(QMouseEvent* event);
+  void AppendPart();
+  void CompleteFilling();
 
   QWidget* gutter_;  // a GutterArea
   bool on_ = false;
@@ -63,6 +75,9 @@ class LinedTextBoxWidget : public QPlainTextEdit {
   int trayWidth_ = 0;
   std::optional<GutterPaint> lastPaint_;
   int paints_ = 0;
+  QString filling_;        // the text being shown, while parts of it are still to come
+  qsizetype fillFrom_ = 0;  // where the next part starts
+  QTimer* fillTimer_;
 };
 
 }  // namespace tessarine

@@ -246,23 +246,6 @@ TEST(ListScriptTest, ThePressReplacesText4OnlyWithAWholeListing) {
 
   EXPECT_FALSE(pressWith("&H40", false, [](double) { return false; }));
   EXPECT_EQ(form.Text4.text, "what was there");
-
-  // A view that shows the listing first is given it whole, and may still cancel.
-  std::string shown;
-  const auto show = [&](bool goOn) {
-    return [&shown, goOn](const std::string& listing) {
-      shown = listing;
-      return goOn;
-    };
-  };
-  form.Text3.text = "&H40";
-  EXPECT_FALSE(ListIntoText4(form, rom, ui, {}, show(false)));
-  EXPECT_EQ(shown, "lock \r\nend \r\n");
-  EXPECT_EQ(form.Text4.text, "what was there");
-  shown.clear();
-  EXPECT_TRUE(ListIntoText4(form, rom, ui, {}, show(true)));
-  EXPECT_EQ(shown, "lock \r\nend \r\n");
-  EXPECT_EQ(form.Text4.text, "lock \r\nend \r\n");
 }
 
 TEST(ListScriptTest, ProgressRisesToTheEndAndACancelStopsTheListing) {

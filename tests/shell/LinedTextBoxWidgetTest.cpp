@@ -182,32 +182,35 @@ TEST_F(LinedTextBoxWidgetTest, APressInTheGutterReachesTheText) {
             "line 2\u2029line 3\u2029line 4\u2029line 5\u2029");
 }
 
-TEST_F(LinedTextBoxWidgetTest, ALongTextSetInStepsShowsAsAWholeOrNotAtAll) {
+TEST_F(LinedTextBoxWidgetTest, ALongTextShowsItsStartAtOnceAndFillsWhileTheBoxStaysInUse) {
   const QString text = Lines(100000) + "\r\n";
-  std::vector<double> told;
-  ASSERT_TRUE(box_->SetPlainTextInSteps(text, [&](double done) {
-    told.push_back(done);
-    return true;
-  }));
-  EXPECT_EQ(box_->toPlainText(), QString(text).replace("\r\n", "\n"));
-  EXPECT_EQ(box_->blockCount(), 100001);
-  EXPECT_GT(told.size(), 1u);
-  EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
-  EXPECT_EQ(told.back(), 1.0);
-  EXPECT_EQ(box_->lineWrapMode(), QPlainTextEdit::NoWrap);
+  int filled = 0;
+  QObject::connect(box_, &LinedTextBoxWidget::Filled, [&] { ++filled; });
+  box_->ShowPlainText(text);
+  EXPECT_TRUE(box_->Filling());
+  EXPECT_GT(box_->blockCount(), 1000);  // more than a screen, less than the whole
+  EXPECT_LT(box_->blockCount(), 100001);
   EXPECT_EQ(Painted().rows.front().number, "0001");
-  QTest::keyClick(box_, Qt::Key_Z, Qt::ControlModifier);  // nothing to undo: the text stays
+
+  // The box takes a key while it fills, and the filling keeps what was typed.
+  box_->setFocus();
+  box_->moveCursor(QTextCursor::Start);
+  QTest::keyClicks(box_, "x");
+  while (box_->Filling()) QCoreApplication::processEvents();
+  EXPECT_EQ(filled, 1);
+  EXPECT_EQ(box_->blockCount(), 100001);
+  EXPECT_EQ(box_->toPlainText(), "x" + QString(text).replace("\r\n", "\n"));
+  EXPECT_EQ(box_->lineWrapMode(), QPlainTextEdit::NoWrap);
+  QTest::keyClick(box_, Qt::Key_Z, Qt::ControlModifier);  // the typed key undoes; the listing stays
   EXPECT_EQ(box_->blockCount(), 100001);
 
-  int steps = 0;
-  EXPECT_FALSE(box_->SetPlainTextInSteps("another text", [&](double) { return ++steps < 1; }));
-  EXPECT_FALSE(box_->SetPlainTextInSteps(Lines(100000), [&](double) { return ++steps < 3; }));
-  EXPECT_EQ(box_->blockCount(), 100001);
-  EXPECT_TRUE(box_->toPlainText().startsWith("line 1\nline 2\n"));
-
+  // Another text stops the filling of the one before, and the box keeps no text it left.
+  box_->ShowPlainText(Lines(100000));
   const QPointer<QTextDocument> replaced = box_->document();
-  ASSERT_TRUE(box_->SetPlainTextInSteps("lock\r\n", {}));
-  EXPECT_TRUE(replaced.isNull());  // the box keeps no text it no longer shows
+  box_->ShowPlainText("lock\r\n");
+  EXPECT_FALSE(box_->Filling());
+  EXPECT_TRUE(replaced.isNull());
+  QCoreApplication::processEvents();
   EXPECT_EQ(box_->toPlainText(), "lock\n");
 }
 
