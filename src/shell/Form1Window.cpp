@@ -14,7 +14,6 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStackedLayout>
@@ -25,7 +24,10 @@
 #include "events/EventWords.h"
 #include "events/PersonRecord.h"
 #include "rom/OpenRom.h"
+#include "scripts/ListScript.h"
+#include "shell/LinedTextBoxWidget.h"
 #include "shell/QtArtwork.h"
+#include "shell/QtListingProgress.h"
 #include "shell/QtShell.h"
 
 namespace tessarine {
@@ -168,10 +170,10 @@ void Form1Window::BuildWidgets() {
   Command2_ = Named(new QPushButton(this), "Command2");
   Check1_ = Named(new QCheckBox(this), "Check1");
   Command8_ = Named(new QPushButton(this), "Command8");
-  Text4_ = Named(new QPlainTextEdit(this), "Text4");
-  Text4_->setLineWrapMode(QPlainTextEdit::NoWrap);
+  Text4_ = Named(new LinedTextBoxWidget(this), "Text4");
   Text4_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   Text4_->setMinimumHeight(220);
+  Text4_->EnableLineNumbers(true, 4);
 
   for (QLineEdit* number : {spritetxt_, flagtxt_, Text1_, hoobla_, Text2_, hoobla2_}) {
     number->setMaximumWidth(90);
@@ -281,6 +283,12 @@ void Form1Window::Connect() {
           [=, this] { run([this] { LoadPerson(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
   connect(Command9_, &QPushButton::clicked, this,
           [=, this] { run([this] { SavePerson(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+  connect(Command2_, &QPushButton::clicked, this, [=, this] {
+    run([this] {
+      QtListingProgress progress(this);  // shows itself only for a listing that takes a while
+      ListIntoText4(shell_.form1(), shell_.rom(), shell_.dialogs(), progress.Callback());
+    });
+  });
   for (QPushButton* load : {Command6_, frlgl_}) {
     connect(load, &QPushButton::clicked, this,
             [=, this] { run([this] { LoadEventWords(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
@@ -351,8 +359,10 @@ void Form1Window::Refresh() {
   Check1_->setText(Q(f.Check1.caption));
   Check1_->setChecked(f.Check1.checked);
   Sync(Command8_, f.Command8);
+  // Text4 shows what the program last put there; what a person types there stays in the
+  // box, since nothing reads it back.
   if (shownText4_ != f.Text4.text) {
-    Text4_->setPlainText(Q(f.Text4.text));
+    Text4_->ShowPlainText(Q(f.Text4.text));
     shownText4_ = f.Text4.text;
   }
 }

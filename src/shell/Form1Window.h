@@ -11,11 +11,11 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QMenu;
-class QPlainTextEdit;
 class QPushButton;
 
 namespace tessarine {
 
+class LinedTextBoxWidget;
 class QtShell;
 struct ComboBox;
 
@@ -99,7 +99,7 @@ class Form1Window : public QWidget {
   QPushButton* Command2_;
   QCheckBox* Check1_;
   QPushButton* Command8_;
-  QPlainTextEdit* Text4_;
+  LinedTextBoxWidget* Text4_;
 
   // What the widgets were last given, so that a refresh touches only what changed.
   std::vector<std::string> shownCombo1_, shownCombo2_, shownCombo3_, shownCombo4_;

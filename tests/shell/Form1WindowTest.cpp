@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "shell/LinedTextBoxWidget.h"
 #include "shell/QtShell.h"
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
@@ -100,6 +101,24 @@ TEST_F(Form1WindowTest, AnEventEditFromOpenToSaveThroughTheWidgets) {
   EXPECT_THAT(Bytes(now.begin() + 0x391E08 + 20, now.begin() + 0x391E08 + 22), ElementsAre(0x21, 0x43));
   EXPECT_THAT(Bytes(now.begin() + 0x160B84, now.begin() + 0x160B86), ElementsAre(0xAA, 0x00));
   EXPECT_THAT(Bytes(now.begin() + 0x160B5E, now.begin() + 0x160B60), ElementsAre(0xC0, 0x00));
+}
+
+TEST_F(Form1WindowTest, TheListerShowsAScriptWithLineNumbers) {
+  FixtureRom fixture = EventFixtureRom("BPGE");
+  fixture.PutBytes(0xA00200, {0x6A, 0x5A, 0xB6, 0x19, 0x00, 0x05, 0x00, 0x00, 0x30, 0xA1, 0x19, 0x00, 0x02});
+  ClickOpen(fixture.path());
+  auto* text4 = Find<LinedTextBoxWidget>("Text4");
+  EXPECT_TRUE(text4->LineNumbersOn());
+  EXPECT_EQ(text4->NumDigits(), 4);
+
+  Type(Find<QLineEdit>("Text3"), "&HA00200");
+  QTest::mouseClick(Find<QPushButton>("Command2"), Qt::LeftButton);
+  EXPECT_EQ(text4->toPlainText(), "lock \nfaceplayer \nwildpkmnbattle: &H19 &H5 &H0\ncry  &H19\nend \n");
+
+  Type(Find<QLineEdit>("Text3"), "&HF8000000");  // what a null script pointer leaves there
+  QTest::mouseClick(Find<QPushButton>("Command2"), Qt::LeftButton);
+  EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("Offset Bad"));
+  EXPECT_EQ(text4->blockCount(), 6);  // the listing stays
 }
 
 TEST_F(Form1WindowTest, AFailureIsShownAndTheWindowStaysUsable) {
