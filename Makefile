@@ -5,7 +5,7 @@
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 CMAKE_CONFIGURE = cmake -S . -G Ninja -Wno-dev
 
-.PHONY: run test bench deps clean
+.PHONY: run test bench screenshots deps clean
 
 deps:
 	@scripts/install-deps
@@ -26,6 +26,12 @@ bench: deps
 	@$(CMAKE_CONFIGURE) -B build/bench -DCMAKE_BUILD_TYPE=Release -DTESSARINE_TESTS=OFF -DTESSARINE_BENCH=ON >/dev/null
 	@cmake --build build/bench
 	QT_QPA_PLATFORM=offscreen build/bench/bench/tessarine_bench
+
+# Pictures of every window on fixture ROMs, drawn under a virtual display, into docs/screenshots.
+screenshots: deps
+	@$(CMAKE_CONFIGURE) -B build/test -DCMAKE_BUILD_TYPE=Debug -DTESSARINE_SANITIZE=ON -DTESSARINE_WERROR=ON >/dev/null
+	@cmake --build build/test --target tessarine_screenshots
+	ASAN_OPTIONS=detect_leaks=0 xvfb-run -a -s "-screen 0 1280x1024x24" build/test/tests/tessarine_screenshots docs/screenshots
 
 clean:
 	rm -rf build
