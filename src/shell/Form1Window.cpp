@@ -322,9 +322,11 @@ void Form1Window::SyncCombo(QComboBox* widget, const ComboBox& combo, std::vecto
 
 void Form1Window::Refresh() {
   const Form1& f = shell_.form1();
-  const QList<QWidget*> all = findChildren<QWidget*>();
+  // The controls whose changes run actions stay quiet while they take the record's values.
+  QObject* const controls[] = {Combo3_, Combo4_, Combo2_,   Combo1_, spritetxt_, scriptpointxt_, flagtxt_,
+                               Text1_,  hoobla_, Text2_,    hoobla2_, Text3_,    Check1_};
   std::vector<std::unique_ptr<QSignalBlocker>> blockers;
-  for (QWidget* widget : all) blockers.push_back(std::make_unique<QSignalBlocker>(widget));
+  for (QObject* control : controls) blockers.push_back(std::make_unique<QSignalBlocker>(control));
 
   setWindowTitle(Q(f.title));
   Sync(Image3_->label(), f.Label15);

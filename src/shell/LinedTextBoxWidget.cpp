@@ -96,6 +96,7 @@ void LinedTextBoxWidget::ShowPlainText(const QString& text) {
   const QPointer<QTextDocument> previous = document();
   setDocument(next);
   if (previous && previous->parent() == this) delete previous;
+  gutter_->update();  // also while the box's signals are blocked
   if (Filling()) {
     fillTimer_->start();
   } else {
@@ -109,6 +110,7 @@ void LinedTextBoxWidget::AppendPart() {
   end.movePosition(QTextCursor::End);
   end.insertText(filling_.mid(fillFrom_, to - fillFrom_));
   fillFrom_ = to;
+  gutter_->update();
   if (!Filling()) CompleteFilling();
 }
 

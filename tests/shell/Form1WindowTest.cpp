@@ -114,6 +114,9 @@ TEST_F(Form1WindowTest, TheListerShowsAScriptWithLineNumbers) {
   Type(Find<QLineEdit>("Text3"), "&HA00200");
   QTest::mouseClick(Find<QPushButton>("Command2"), Qt::LeftButton);
   EXPECT_EQ(text4->toPlainText(), "lock \nfaceplayer \nwildpkmnbattle: &H19 &H5 &H0\ncry  &H19\nend \n");
+  QTest::qWait(50);  // the paints that the new text asks for
+  ASSERT_TRUE(text4->LastGutterPaint().has_value());
+  EXPECT_EQ(text4->LastGutterPaint()->rows.size(), 6u);
 
   Type(Find<QLineEdit>("Text3"), "&HF8000000");  // what a null script pointer leaves there
   QTest::mouseClick(Find<QPushButton>("Command2"), Qt::LeftButton);

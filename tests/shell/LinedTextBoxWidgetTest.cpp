@@ -182,6 +182,15 @@ TEST_F(LinedTextBoxWidgetTest, APressInTheGutterReachesTheText) {
             "line 2\u2029line 3\u2029line 4\u2029line 5\u2029");
 }
 
+TEST_F(LinedTextBoxWidgetTest, ANewTextIsNumberedAsSoonAsItIsShown) {
+  box_->ShowPlainText("lock \r\nfaceplayer \r\nend \r\n");
+  const GutterPaint& plan = Painted();
+  std::vector<std::string> numbers;
+  for (const GutterRow& row : plan.rows) numbers.push_back(row.number);
+  EXPECT_EQ(numbers, (std::vector<std::string>{"0001", "0002", "0003", "0004"}));
+  EXPECT_EQ(plan.rows[1].rect.top - plan.rows[0].rect.top, box_->fontMetrics().lineSpacing());
+}
+
 TEST_F(LinedTextBoxWidgetTest, ALongTextShowsItsStartAtOnceAndFillsWhileTheBoxStaysInUse) {
   const QString text = Lines(100000) + "\r\n";
   int filled = 0;
