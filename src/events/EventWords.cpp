@@ -1,5 +1,6 @@
 #include "events/EventWords.h"
 
+#include <optional>
 #include <vector>
 
 #include "events/EventCatalogue.h"
@@ -26,8 +27,15 @@ bool IsSpeciesNumber(std::int16_t word) { return word >= 0 && word < kSpeciesCou
 struct EventWord {
   const char* name;
   RomOffset at;
-  std::int16_t found = 0;
+  std::optional<std::int16_t> found;  // none where the file ends before the word does
 };
+
+// The word that stands at `at` now, if the file holds all of it.
+std::optional<std::int16_t> WordInFile(RomImage& rom, RomOffset at) {
+  const Bytes bytes = rom.ReadBytes(at, 2);
+  if (bytes.size() < 2) return std::nullopt;
+  return static_cast<std::int16_t>(bytes[0] | (bytes[1] << 8));
+}
 
 std::string JoinNames(const std::vector<EventWord>& words) {
   return words.size() == 1 ? words[0].name : std::string(words[0].name) + " and " + words[1].name;
@@ -44,7 +52,7 @@ std::string LeftAloneMessage(const std::vector<EventWord>& leftAlone, const std:
   std::string places;
   for (const EventWord& word : leftAlone) {
     if (!places.empty()) places += " and ";
-    places += "at " + ToHexText(word.at) + " stands " + ToHexText(word.found);
+    places += "at " + ToHexText(word.at) + " stands " + (word.found ? ToHexText(*word.found) : "the end of the ROM");
   }
   return "The " + JoinNames(leftAlone) + (one ? " word was left as it is: " : " words were left as they are: ") +
          places + (one ? ", which is no species number" : ", which are no species numbers") + " (&H0 to " +
@@ -121,8 +129,8 @@ void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs) {
     } catch (const Failure& failure) {
       throw failure.Then(WhatWasSaved(saved) + " The " + word.name + " word was not.");
     }
-    word.found = rom.ReadWord(word.at);
-    if (IsSpeciesNumber(word.found)) {
+    word.found = WordInFile(rom, word.at);
+    if (word.found && IsSpeciesNumber(*word.found)) {
       rom.WriteWord(word.at, value);
       saved.push_back(word);
     } else {

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 
 #include "rom/Failure.h"
 #include "rom/HexField.h"
@@ -40,12 +41,15 @@ void RomImage::Open(const std::string& path) {
   }
   romPath_ = path;
   position_ = 0;
+  std::error_code ignored;
+  regularFile_ = std::filesystem::is_regular_file(path, ignored);
 }
 
 void RomImage::Close() noexcept {
   if (file_ != nullptr) std::fclose(file_);
   file_ = nullptr;
   readOnly_ = false;
+  regularFile_ = false;
   romPath_.clear();
   position_ = 0;
 }
@@ -103,9 +107,10 @@ void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
     throw Failure("The ROM is open read-only (the file cannot be written), so nothing was written" + where + ".");
   }
   const std::int64_t length = Length();
-  if (position_ > length) {
-    throw Failure("Nothing was written" + where + ": that offset lies past the end of the ROM, which is " +
-                  HexPosition(length) + " bytes long.");
+  if (regularFile_ && position_ + static_cast<std::int64_t>(bytes.size()) > length) {
+    throw Failure("Nothing was written" + where + ": " + std::to_string(bytes.size()) +
+                  " bytes there would run past the end of the ROM, which is " + HexPosition(length) +
+                  " bytes long.");
   }
   errno = 0;
   const bool placed = std::fseek(file_, static_cast<long>(position_), SEEK_SET) == 0;

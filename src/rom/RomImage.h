@@ -18,9 +18,9 @@ namespace tessarine {
 // call returns, and the next read, here or through any other handle, sees it.
 //
 // Reads that run past the end deliver no bytes from outside the file: ReadBytes gives
-// the bytes that are there, the number reads count missing bytes as 0. Reads never
-// extend the file. A write may start anywhere up to the end of the file, where it
-// extends it; a write that would start past the end is refused, so no gap is made.
+// the bytes that are there, the number reads count missing bytes as 0. Nothing extends
+// the file: a write that would run past its end is refused whole, so a mistyped offset
+// never grows a ROM. (A device, which has no end, takes what it takes.)
 class RomImage {
  public:
   RomImage() = default;
@@ -68,6 +68,7 @@ class RomImage {
 
   std::FILE* file_ = nullptr;
   bool readOnly_ = false;
+  bool regularFile_ = false;
   std::string romPath_;
   std::int64_t position_ = 0;
 };

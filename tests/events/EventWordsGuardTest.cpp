@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "events/EventSelection.h"
+#include "shell/Form1.h"
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
 #include "support/MainSession.h"
@@ -109,6 +110,24 @@ TEST(EventWordsGuardTest, BothWordsLeftAloneAreNamedInOneMessage) {
               ElementsAre("The Pokemon and Cry words were left as they are: at &HB00103 stands &HFFFF and at "
                           "&HB00108 stands &HFFFF, which are no species numbers (&H0 to &H19B), and writing a "
                           "species there would break the event's script. The person record was saved."));
+}
+
+TEST(EventWordsGuardTest, AWordThatRunsPastTheEndOfTheFileIsLeftAlone) {
+  // A script whose cry word would be the last byte of the file and one byte behind it.
+  constexpr std::uint32_t kNearEnd = test::FixtureRom::kSize - 9;
+  FixtureRom fixture = test::EventFixtureRom("AXVE");
+  fixture.PutLong(0x38EE50 + 16, kNearEnd + 0x08000000).PutBytes(kNearEnd, {0x6A, 0x5A, 0xB6, 0x96, 0x01, 0x46, 0x00, 0x00, 0x05});
+  test::MainSession s;
+  s.Open(fixture.path());
+  s.PickEvent(1);
+  const ByteOracle oracle(fixture.path());
+  SetCombo1Selection(s.form, 0x0AB);
+  s.Save();
+  EXPECT_EQ(oracle.Changes(), (Ranges{{kNearEnd + 3, 2}}));  // the file keeps its size
+  EXPECT_THAT(s.dialogs.MessageTexts(),
+              ElementsAre("The Cry word was left as it is: at &HFFFFFF stands the end of the ROM, which is no "
+                          "species number (&H0 to &H19B), and writing a species there would break the event's "
+                          "script. The person record and the Pokemon word were saved."));
 }
 
 }  // namespace

@@ -95,15 +95,18 @@ TEST(RomImageTest, ReadsAtAndPastTheEndGiveNothingFromOutsideTheFile) {
   EXPECT_EQ(std::filesystem::file_size(path), 0x200u);  // never extended by a read
 }
 
-TEST(RomImageTest, AWriteMayEndBeyondTheEndButNotStartPastIt) {
+TEST(RomImageTest, AWriteThatWouldRunPastTheEndIsRefusedWhole) {
   FixtureRom fixture("AXVE", 0x200);
   const std::string path = fixture.path();
+  const ByteOracle oracle(path);
   RomImage rom;
   rom.Open(path);
-  EXPECT_THAT(FailureOf([&] { rom.WriteWord(0x201, 1); }), HasSubstr("past the end"));
-  EXPECT_EQ(std::filesystem::file_size(path), 0x200u);
-  rom.WriteWord(0x1FF, 0x0201);
-  EXPECT_EQ(rom.Length(), 0x201);
+  for (const RomOffset at : {0x1FF, 0x200, 0x7FFFFFF0}) {
+    EXPECT_THAT(FailureOf([&] { rom.WriteWord(at, 0x0201); }), HasSubstr("past the end")) << at;
+  }
+  EXPECT_THAT(oracle.Changes(), IsEmpty());
+  rom.WriteWord(0x1FE, 0x0201);  // the last two bytes
+  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{0x1FE, 2}}));
 }
 
 TEST(RomImageTest, FailuresSaySoAndChangeNothing) {
