@@ -21,6 +21,7 @@ void ResetEventFields(Form1& form) {
 void SelectEvent(Form1& form, RomImage& rom, Dialogs& dialogs, int index) {
   form.whee = std::to_string(index);
   ResetEventFields(form);
+  form.speciesMissing.clear();  // whatever the last event's words held, this event's load decides
   const EventEntry* event = FindEvent(form.cowmoo, index);
   if (event == nullptr) return;
   form.personOffset = form.*(event->personField);
