@@ -17,7 +17,7 @@ std::string HexDigits(std::uint32_t value) {
   return "&H" + std::string(reversed.rbegin(), reversed.rend());
 }
 
-bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+bool IsBlank(char c) { return c == ' '; }
 
 int HexValue(char c) {
   if (c >= '0' && c <= '9') return c - '0';

@@ -55,7 +55,7 @@ TEST(HexFieldTest, StrictParsesReadOrFailByTheWidthOfTheField) {
       {"&H000000000001", 1, 1, 1},
       {"&H100000000", no, no, no},  // nine significant digits
       {"  &H1F  ", 31, 31, 31},
-      {"\t7", 7, 7, 7},
+      {"\t7", no, no, no},  // a blank is a space, nothing else
       {"+5", 5, 5, 5},
       {"-1", -1, -1, no},
       {"-32768", -32768, -32768, no},
