@@ -8,13 +8,10 @@ namespace tessarine {
 
 // The progress dialog of one press of Command2. It stays hidden while the work is quick and
 // appears once it is likely to take longer than half a second; its Cancel stops the work,
-// and Text4 keeps what it had. Made on the stack of the press; the listing and the showing
-// of a long text each take a part of the bar:
+// and Text4 keeps what it had. Made on the stack of the press:
 //
 //   QtListingProgress progress(this);
-//   ListIntoText4(form, rom, dialogs, progress.Callback(0.0, 0.05), [&](const std::string& listing) {
-//     return text4->SetPlainTextInSteps(QString::fromStdString(listing), progress.Callback(0.05, 1.0));
-//   });
+//   ListIntoText4(form, rom, dialogs, progress.Callback());
 class QtListingProgress {
  public:
   explicit QtListingProgress(QWidget* parent);
