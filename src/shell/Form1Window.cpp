@@ -73,18 +73,33 @@ constexpr int kImageButtonHeight = 30;
 
 }  // namespace
 
-ImageButton::ImageButton(const QString& name, const QString& labelName, QWidget* parent)
+ImageButton::ImageButton(const QString& name, const QString& labelName, bool captionActs, QWidget* parent)
     : QAbstractButton(parent), label_(new QLabel(this)) {
   setObjectName(name);
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::PointingHandCursor);
   label_->setObjectName(labelName);
-  label_->setAlignment(Qt::AlignCenter);
-  // The caption sits on the picture; a click on it is a click on the picture.
-  label_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  // The caption sits in the middle of the picture, as large as its text.
+  if (captionActs) {
+    label_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  } else {
+    label_->installEventFilter(this);
+    label_->setCursor(Qt::ArrowCursor);
+  }
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(label_);
+  layout->addWidget(label_, 0, Qt::AlignCenter);
+}
+
+bool ImageButton::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+      return watched == label_;  // taken by the caption, and nothing more
+    default:
+      return false;
+  }
 }
 
 QSize ImageButton::sizeHint() const {
@@ -119,9 +134,11 @@ Form1Window::Form1Window(QtShell& shell) : shell_(shell) {
 Form1Window::~Form1Window() = default;
 
 void Form1Window::BuildWidgets() {
-  Image3_ = new ImageButton("Image3", "Label15", this);
-  Image4_ = new ImageButton("Image4", "Label16", this);
-  Image5_ = new ImageButton("Image5", "Label17", this);
+  // A click on the caption "Open" does nothing; those on "Tools" and "About" do what a
+  // click on their pictures does.
+  Image3_ = new ImageButton("Image3", "Label15", false, this);
+  Image4_ = new ImageButton("Image4", "Label16", true, this);
+  Image5_ = new ImageButton("Image5", "Label17", true, this);
   // The captions take the system's button text colour.
   for (ImageButton* button : {Image3_, Image4_, Image5_}) {
     QPalette palette = button->label()->palette();
@@ -137,9 +154,14 @@ void Form1Window::BuildWidgets() {
   Combo3_->setEditable(true);
   Combo4_ = Named(new QComboBox(this), "Combo4");
   Combo4_->setEditable(true);
+  // The event lists take typed text, and typed text does nothing: no completion, and Enter
+  // picks no entry. Only picking one from the list selects an event.
   for (QComboBox* events : {Combo3_, Combo4_}) {
     events->setInsertPolicy(QComboBox::NoInsert);
     events->setMinimumContentsLength(16);
+    events->setCompleter(nullptr);
+    events->installEventFilter(this);
+    events->lineEdit()->installEventFilter(this);
   }
   Command10_ = Named(new QPushButton(this), "Command10");
   Command9_ = Named(new QPushButton(this), "Command9");
@@ -404,6 +426,16 @@ void Form1Window::mouseMoveEvent(QMouseEvent* event) {
     return;
   }
   QWidget::mouseMoveEvent(event);
+}
+
+bool Form1Window::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const bool eventList = watched == Combo3_ || watched == Combo4_ || watched == Combo3_->lineEdit() ||
+                           watched == Combo4_->lineEdit();
+    if (eventList && (key == Qt::Key_Return || key == Qt::Key_Enter)) return true;
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 void Form1Window::closeEvent(QCloseEvent* event) {

@@ -26,13 +26,16 @@ class ImageButton : public QAbstractButton {
   Q_OBJECT
 
  public:
-  ImageButton(const QString& name, const QString& labelName, QWidget* parent);
+  // `captionActs`: a click on the caption is a click on the picture; otherwise the caption
+  // takes its clicks and does nothing with them.
+  ImageButton(const QString& name, const QString& labelName, bool captionActs, QWidget* parent);
   QLabel* label() const { return label_; }
   QSize sizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QLabel* label_;
@@ -58,6 +61,7 @@ class Form1Window : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void BuildWidgets();

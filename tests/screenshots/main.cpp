@@ -40,7 +40,7 @@ void OpenAndPick(QtShell& shell, test::ScriptedDialogs& dialogs, test::FixtureRo
                  int event) {
   Form1Window& window = shell.mainWindow();
   dialogs.openFileAnswers.push_back(fixture.path());
-  QTest::mouseClick(window.findChild<QWidget*>("Image3"), Qt::LeftButton);
+  QTest::mouseClick(window.findChild<QWidget*>("Image3"), Qt::LeftButton, {}, QPoint(6, 6));
   test::Pick(window.findChild<QComboBox*>(list), event);
 }
 
@@ -98,7 +98,7 @@ int main(int argc, char** argv) {
     ok &= Save(shell.Window(WindowName::frmAbout), dir, "about.png");
 
     dialogs.openFileAnswers.push_back(emerald.path());
-    QTest::mouseClick(window.findChild<QWidget*>("Image3"), Qt::LeftButton);
+    QTest::mouseClick(window.findChild<QWidget*>("Image3"), Qt::LeftButton, {}, QPoint(6, 6));
     ok &= Save(shell.Window(WindowName::Form9), dir, "unsupported-rom.png");
   }
   return ok ? 0 : 1;

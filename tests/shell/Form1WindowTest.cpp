@@ -49,9 +49,10 @@ class Form1WindowTest : public ::testing::Test {
     EXPECT_NE(widget, nullptr) << name;
     return widget;
   }
+  // A click on the picture of Open, beside its caption.
   void ClickOpen(const std::string& path) {
     dialogs.openFileAnswers.push_back(path);
-    QTest::mouseClick(Find<ImageButton>("Image3"), Qt::LeftButton);
+    QTest::mouseClick(Find<ImageButton>("Image3"), Qt::LeftButton, {}, QPoint(6, 6));
   }
 };
 
@@ -76,6 +77,34 @@ TEST_F(Form1WindowTest, StartsWithTheControlsOfTheMainWindow) {
   EXPECT_TRUE(Find<QPushButton>("Command6")->isVisible());
   EXPECT_TRUE(Find<QPushButton>("frlgl")->isVisible());
   EXPECT_FALSE(Find<QLineEdit>("hoobla2")->isVisible());
+}
+
+TEST_F(Form1WindowTest, TheCaptionOpenTakesItsClicksAndTheOthersPassThemOn) {
+  QTest::mouseClick(Find<QLabel>("Label15"), Qt::LeftButton);
+  EXPECT_THAT(dialogs.fileDialogs, IsEmpty());
+  QTest::mouseClick(Find<QLabel>("Label17"), Qt::LeftButton);
+  EXPECT_NE(shell.Window(WindowName::frmAbout), nullptr);
+  ClickOpen("");
+  EXPECT_EQ(dialogs.fileDialogs.size(), 1u);
+  QTest::keyClick(Find<ImageButton>("Image3"), Qt::Key_Return);  // the keyboard reaches it too
+  QTest::qWait(300);  // animateClick's press
+  EXPECT_EQ(dialogs.fileDialogs.size(), 2u);
+}
+
+TEST_F(Form1WindowTest, TextTypedIntoTheEventListSelectsNoEvent) {
+  FixtureRom fixture = EventFixtureRom("AXVE");
+  ClickOpen(fixture.path());
+  auto* events = Find<QComboBox>("Combo3");
+  events->setFocus();
+  events->lineEdit()->selectAll();
+  QTest::keyClicks(events, "Rayq");
+  QTest::keyClick(events, Qt::Key_Return);
+  EXPECT_EQ(events->currentText(), "Rayq");
+  EXPECT_EQ(shell.form1().Combo3.text, "Rayq");
+  EXPECT_EQ(shell.form1().whee, "0");
+  EXPECT_EQ(shell.form1().spritetxt.text, "&H0000");
+  Pick(events, 1);
+  EXPECT_EQ(shell.form1().whee, "1");
 }
 
 TEST_F(Form1WindowTest, AnEventEditFromOpenToSaveThroughTheWidgets) {
