@@ -7,16 +7,6 @@
 namespace tessarine {
 namespace {
 
-std::string HexDigits(std::uint32_t value) {
-  static constexpr char kDigits[] = "0123456789ABCDEF";
-  std::string reversed;
-  do {
-    reversed.push_back(kDigits[value & 0xF]);
-    value >>= 4;
-  } while (value != 0);
-  return "&H" + std::string(reversed.rbegin(), reversed.rend());
-}
-
 bool IsBlank(char c) { return c == ' '; }
 
 int HexValue(char c) {
@@ -128,9 +118,19 @@ std::int64_t ParseOrFail(std::string_view text, std::string_view field, const Wi
 
 }  // namespace
 
-std::string ToHexText(std::uint8_t byte) { return HexDigits(byte); }
-std::string ToHexText(std::int16_t word) { return HexDigits(static_cast<std::uint16_t>(word)); }
-std::string ToHexText(std::int32_t value) { return HexDigits(static_cast<std::uint32_t>(value)); }
+std::string HexDigits(std::uint32_t value, int minDigits) {
+  static constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string reversed;
+  do {
+    reversed.push_back(kDigits[value & 0xF]);
+    value >>= 4;
+  } while (value != 0 || static_cast<int>(reversed.size()) < minDigits);
+  return std::string(reversed.rbegin(), reversed.rend());
+}
+
+std::string ToHexText(std::uint8_t byte) { return "&H" + HexDigits(byte); }
+std::string ToHexText(std::int16_t word) { return "&H" + HexDigits(static_cast<std::uint16_t>(word)); }
+std::string ToHexText(std::int32_t value) { return "&H" + HexDigits(static_cast<std::uint32_t>(value)); }
 
 std::int32_t ParseOffset(std::string_view text, std::string_view field) {
   return static_cast<std::int32_t>(ParseOrFail(text, field, kOffsetWidth));

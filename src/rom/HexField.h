@@ -18,6 +18,10 @@ std::string ToHexText(std::int32_t value);
 template <typename T>
 std::string ToHexText(T) = delete;  // no silent widening from other integer types
 
+// Upper-case hexadecimal digits with no prefix, padded with zeros to `minDigits`:
+// HexDigits(0x1A, 3) is "01A". The digits of ToHexText are HexDigits(value).
+std::string HexDigits(std::uint32_t value, int minDigits = 1);
+
 // Strict parses. Each throws Failure for a text that is no number or a number out of
 // range; `field` names the field in the sentence ("Flag", "Offset").
 std::int32_t ParseOffset(std::string_view text, std::string_view field = {});

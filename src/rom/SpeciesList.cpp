@@ -10,10 +10,7 @@
 namespace tessarine {
 
 std::string NumberedRow(int index, std::string_view name) {
-  static constexpr char kDigits[] = "0123456789ABCDEF";
-  std::string row(3, '0');
-  for (int i = 2, v = index; i >= 0; --i, v >>= 4) row[static_cast<std::size_t>(i)] = kDigits[v & 0xF];
-  return row + " - " + std::string(name);
+  return HexDigits(static_cast<std::uint32_t>(index), 3) + " - " + std::string(name);
 }
 
 void FillSpeciesList(Form1& form, RomImage& rom) {

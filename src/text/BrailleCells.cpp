@@ -1,5 +1,6 @@
 #include <array>
 
+#include "rom/HexField.h"
 #include "text/Braille2Text.h"
 
 namespace tessarine {
@@ -31,11 +32,7 @@ std::string BrailleCellText(std::uint8_t cell) {
   for (const Cell& c : kCells) {
     if (c.byte == cell) return c.text;
   }
-  static constexpr char kDigits[] = "0123456789ABCDEF";
-  std::string escape = "[&H";
-  if (cell >= 0x10) escape += kDigits[cell >> 4];
-  escape += kDigits[cell & 0xF];
-  return escape + "]";
+  return "[" + ToHexText(cell) + "]";
 }
 
 }  // namespace tessarine

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "rom/HexField.h"
 #include "text/GameTextTables.h"
 #include "text/TextTokenizer.h"
 #include "text/Utf8.h"
@@ -10,12 +11,7 @@ namespace tessarine {
 namespace {
 
 // "&H" and two upper-case digits: how a byte with no form, or a parameter byte, prints.
-void AppendHexForm(std::string& text, std::uint8_t byte) {
-  static constexpr char kDigits[] = "0123456789ABCDEF";
-  text += "&H";
-  text += kDigits[byte >> 4];
-  text += kDigits[byte & 0xF];
-}
+void AppendHexForm(std::string& text, std::uint8_t byte) { text += "&H" + HexDigits(byte, 2); }
 
 // 0xFC and 0xFD take the byte after them as a parameter, whatever its value.
 constexpr bool TakesParameter(std::uint8_t byte) { return byte == 0xFC || byte == 0xFD; }
