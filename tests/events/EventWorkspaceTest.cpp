@@ -4,13 +4,13 @@
 #include "events/EventSelection.h"
 #include "events/EventWords.h"
 #include "events/PersonRecord.h"
-#include "rom/Failure.h"
 #include "rom/HexField.h"
 #include "rom/OpenRom.h"
 #include "rom/RomImage.h"
 #include "shell/Form1.h"
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
+#include "support/Failures.h"
 #include "support/MainSession.h"
 #include "support/ScriptedDialogs.h"
 
@@ -311,12 +311,7 @@ TEST(EventWorkspaceTest, ANullScriptPointerFailsTheWordLoadAfterThePersonFields)
   FixtureRom fixture = EventFixtureRom("BPRE");
   fixture.PutLong(0x3B27D4 + 16, 0);
   Session s(std::move(fixture));
-  try {
-    s.PickEvent(1);
-    FAIL() << "expected a failure";
-  } catch (const Failure& failure) {
-    EXPECT_THAT(failure.what(), HasSubstr("&HF8000014"));
-  }
+  EXPECT_THAT(test::FailureOf([&] { s.PickEvent(1); }), HasSubstr("&HF8000014"));
   EXPECT_EQ(s.form.scriptpointxt.text, "&HF8000000");
   EXPECT_EQ(s.form.Text3.text, "&HF8000000");
   EXPECT_EQ(s.form.spritetxt.text, "&H51");

@@ -8,6 +8,7 @@
 
 #include "rom/Failure.h"
 #include "support/ByteOracle.h"
+#include "support/Failures.h"
 #include "support/FixtureRom.h"
 #include "support/ReadOnlyFile.h"
 
@@ -21,14 +22,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-std::string FailureOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Failure& failure) {
-    return failure.what();
-  }
-  return "(no failure)";
-}
+using test::FailureOf;
 
 TEST(RomImageTest, ReadsRunOnFromTheSharedPosition) {
   FixtureRom fixture = FixtureRom::Sapphire();

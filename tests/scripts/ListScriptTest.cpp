@@ -10,6 +10,7 @@
 
 #include "rom/Failure.h"
 #include "rom/HexField.h"
+#include "support/Failures.h"
 #include "support/FixtureRom.h"
 #include "support/ScriptedDialogs.h"
 
@@ -40,14 +41,7 @@ std::string Repeat(std::string_view text, std::size_t times) {
   return out;
 }
 
-std::string FailureOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Failure& failure) {
-    return failure.what();
-  }
-  return "(no failure)";
-}
+using test::FailureOf;
 
 // Puts each case's bytes 0x100 apart into free space and lists each in the given mode.
 void ExpectListings(const std::vector<Case>& cases, bool braille) {

@@ -2,8 +2,8 @@
 
 #include "events/EventSelection.h"
 #include "events/PersonRecord.h"
-#include "rom/Failure.h"
 #include "rom/OpenRom.h"
+#include "support/Failures.h"
 
 namespace tessarine::test {
 
@@ -23,12 +23,7 @@ void MainSession::PickEvent(int index) {
 void MainSession::Save() { SavePerson(form, rom, dialogs); }
 
 std::string MainSession::SaveFailure() {
-  try {
-    Save();
-  } catch (const Failure& failure) {
-    return failure.what();
-  }
-  return "";
+  return FailureOf([this] { Save(); });
 }
 
 }  // namespace tessarine::test
