@@ -280,10 +280,9 @@ void Form1Window::BuildWidgets() {
 
 void Form1Window::Connect() {
   Form1& f = shell_.form1();
-  const auto run = [this](auto action) { shell_.Run(action); };
 
   connect(Image3_, &QAbstractButton::clicked, this,
-          [=, this] { run([this] { OpenRom(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+          [this] { shell_.Run([this] { OpenRom(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
   connect(Image4_, &QAbstractButton::clicked, this, [this] {
     const QPoint at = Image4_->underMouse() ? QCursor::pos() : Image4_->mapToGlobal(QPoint(0, Image4_->height()));
     Image4_->setDown(true);  // the pressed face while the menu is open
@@ -293,27 +292,27 @@ void Form1Window::Connect() {
   connect(Image5_, &QAbstractButton::clicked, this, [this] { shell_.ShowWindow(WindowName::frmAbout); });
 
   connect(Combo3_, &QComboBox::activated, this,
-          [=, this](int i) { run([this, i] { SetCombo3Selection(shell_.form1(), shell_.rom(), shell_.dialogs(), i); }); });
+          [this](int i) { shell_.Run([this, i] { SetCombo3Selection(shell_.form1(), shell_.rom(), shell_.dialogs(), i); }); });
   connect(Combo4_, &QComboBox::activated, this,
-          [=, this](int i) { run([this, i] { SetCombo4Selection(shell_.form1(), shell_.rom(), shell_.dialogs(), i); }); });
+          [this](int i) { shell_.Run([this, i] { SetCombo4Selection(shell_.form1(), shell_.rom(), shell_.dialogs(), i); }); });
   connect(Combo3_, &QComboBox::editTextChanged, this, [&f](const QString& t) { f.Combo3.text = t.toStdString(); });
   connect(Combo4_, &QComboBox::editTextChanged, this, [&f](const QString& t) { f.Combo4.text = t.toStdString(); });
-  connect(Combo2_, &QComboBox::activated, this, [=, this](int i) { run([this, i] { SetCombo2Selection(shell_.form1(), i); }); });
-  connect(Combo1_, &QComboBox::activated, this, [=, this](int i) { run([this, i] { SetCombo1Selection(shell_.form1(), i); }); });
+  connect(Combo2_, &QComboBox::activated, this, [this](int i) { shell_.Run([this, i] { SetCombo2Selection(shell_.form1(), i); }); });
+  connect(Combo1_, &QComboBox::activated, this, [this](int i) { shell_.Run([this, i] { SetCombo1Selection(shell_.form1(), i); }); });
 
   connect(Command10_, &QPushButton::clicked, this,
-          [=, this] { run([this] { LoadPerson(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+          [this] { shell_.Run([this] { LoadPerson(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
   connect(Command9_, &QPushButton::clicked, this,
-          [=, this] { run([this] { SavePerson(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
-  connect(Command2_, &QPushButton::clicked, this, [=, this] {
-    run([this] {
+          [this] { shell_.Run([this] { SavePerson(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+  connect(Command2_, &QPushButton::clicked, this, [this] {
+    shell_.Run([this] {
       QtListingProgress progress(this);  // shows itself only for a listing that takes a while
       ListIntoText4(shell_.form1(), shell_.rom(), shell_.dialogs(), progress.Callback());
     });
   });
   for (QPushButton* load : {Command6_, frlgl_}) {
     connect(load, &QPushButton::clicked, this,
-            [=, this] { run([this] { LoadEventWords(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+            [this] { shell_.Run([this] { LoadEventWords(shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
   }
 
   // Typing only changes the field; nothing runs until a button is pressed.
