@@ -7,10 +7,10 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
+#include "qt/LinedTextBoxWidget.h"
 #include "rom/HexField.h"
 #include "rom/RomImage.h"
 #include "scripts/ListScript.h"
-#include "shell/LinedTextBoxWidget.h"
 #include "support/FixtureRom.h"
 #include "support/ScriptedDialogs.h"
 

@@ -5,11 +5,12 @@
 #include <QObject>
 
 #include "events/EventSelection.h"
-#include "rom/OpenRom.h"
+#include "forms/Form1.h"
+#include "qt/Form1Window.h"
+#include "qt/QtShell.h"
 #include "rom/RomImage.h"
-#include "shell/Form1.h"
-#include "shell/Form1Window.h"
-#include "shell/QtShell.h"
+#include "shell/OpenRom.h"
+#include "shell/Session.h"
 #include "support/EventFixtures.h"
 #include "support/ScriptedDialogs.h"
 
@@ -36,6 +37,7 @@ void BM_SelectEvent(benchmark::State& state) {
   test::FixtureRom fixture = test::EventFixtureRom("AXPE");
   RomImage rom;
   Form1 form;
+  LoadForm1(form);
   test::ScriptedDialogs dialogs;
   dialogs.openFileAnswers.push_back(fixture.path());
   OpenRom(form, rom, dialogs);

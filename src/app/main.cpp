@@ -1,9 +1,9 @@
 #include <QApplication>
 
-#include "shell/Form1Window.h"
-#include "shell/QtArtwork.h"
-#include "shell/QtDialogs.h"
-#include "shell/QtShell.h"
+#include "qt/Form1Window.h"
+#include "qt/QtArtwork.h"
+#include "qt/QtDialogs.h"
+#include "qt/QtShell.h"
 
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);

@@ -1,7 +1,7 @@
 #include "editors/Form9.h"
 
-#include "shell/Dialogs.h"
-#include "shell/Form1.h"
+#include "forms/Dialogs.h"
+#include "forms/Form1.h"
 
 namespace tessarine {
 

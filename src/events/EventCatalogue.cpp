@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "forms/Form1.h"
 #include "rom/GameProfile.h"
-#include "shell/Form1.h"
 
 namespace tessarine {
 namespace {

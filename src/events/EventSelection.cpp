@@ -2,9 +2,10 @@
 
 #include "events/EventCatalogue.h"
 #include "events/PersonRecord.h"
+#include "forms/Dialogs.h"
+#include "forms/Form1.h"
+#include "rom/GameProfile.h"
 #include "rom/HexField.h"
-#include "shell/Dialogs.h"
-#include "shell/Form1.h"
 
 namespace tessarine {
 

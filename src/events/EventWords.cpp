@@ -5,13 +5,14 @@
 
 #include "events/EventCatalogue.h"
 #include "events/EventSelection.h"
+#include "forms/Dialogs.h"
+#include "forms/Form1.h"
+#include "forms/ListRows.h"
 #include "rom/Failure.h"
+#include "rom/GameProfile.h"
 #include "rom/GbaPointer.h"
 #include "rom/HexField.h"
 #include "rom/RomImage.h"
-#include "rom/SpeciesList.h"
-#include "shell/Dialogs.h"
-#include "shell/Form1.h"
 
 namespace tessarine {
 namespace {

@@ -3,11 +3,11 @@
 #include <type_traits>
 
 #include "events/EventWords.h"
+#include "forms/Form1.h"
 #include "rom/Failure.h"
 #include "rom/GbaPointer.h"
 #include "rom/HexField.h"
 #include "rom/RomImage.h"
-#include "shell/Form1.h"
 
 namespace tessarine {
 namespace {

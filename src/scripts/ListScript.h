@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
+#include "forms/Dialogs.h"
+#include "forms/Form1.h"
 #include "rom/RomImage.h"
-#include "shell/Dialogs.h"
-#include "shell/Form1.h"
 
 namespace tessarine {
 

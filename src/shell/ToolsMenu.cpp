@@ -1,7 +1,7 @@
 #include "shell/ToolsMenu.h"
 
-#include "shell/Dialogs.h"
-#include "shell/Form1.h"
+#include "forms/Dialogs.h"
+#include "forms/Form1.h"
 
 namespace tessarine {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "shell/Controls.h"
+#include "forms/Controls.h"
 
 namespace tessarine {
 

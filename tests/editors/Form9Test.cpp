@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "shell/Form1.h"
+#include "forms/Form1.h"
 #include "support/ScriptedDialogs.h"
 
 namespace tessarine {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "events/EventSelection.h"
-#include "shell/Form1.h"
+#include "forms/Form1.h"
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
 #include "support/MainSession.h"

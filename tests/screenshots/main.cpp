@@ -13,8 +13,8 @@
 #include <QTimer>
 #include <cstdio>
 
-#include "shell/Form1Window.h"
-#include "shell/QtShell.h"
+#include "qt/Form1Window.h"
+#include "qt/QtShell.h"
 #include "support/EventFixtures.h"
 #include "support/ScriptedDialogs.h"
 #include "support/WidgetDriver.h"

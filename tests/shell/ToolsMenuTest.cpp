@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "forms/Form1.h"
 #include "rom/RomImage.h"
-#include "shell/Form1.h"
 #include "support/ScriptedDialogs.h"
 
 namespace tessarine {

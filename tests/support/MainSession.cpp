@@ -2,7 +2,7 @@
 
 #include "events/EventSelection.h"
 #include "events/PersonRecord.h"
-#include "rom/OpenRom.h"
+#include "shell/OpenRom.h"
 #include "support/Failures.h"
 
 namespace tessarine::test {

@@ -2,8 +2,9 @@
 
 #include <string>
 
+#include "forms/Form1.h"
 #include "rom/RomImage.h"
-#include "shell/Form1.h"
+#include "shell/Session.h"
 #include "support/ScriptedDialogs.h"
 
 namespace tessarine::test {
@@ -11,6 +12,8 @@ namespace tessarine::test {
 // A person's session with the main window, without the window: its record, the one ROM
 // file and dialogs that answer from a script.
 struct MainSession {
+  MainSession() { LoadForm1(form); }
+
   Form1 form;
   RomImage rom;
   ScriptedDialogs dialogs;

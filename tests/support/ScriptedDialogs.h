@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/Dialogs.h"
+#include "forms/Dialogs.h"
 
 namespace tessarine::test {
 

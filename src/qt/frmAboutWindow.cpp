@@ -1,13 +1,13 @@
-#include "shell/frmAboutWindow.h"
+#include "qt/frmAboutWindow.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
-#include "shell/Form1Window.h"
-#include "shell/QtArtwork.h"
-#include "shell/QtShell.h"
+#include "qt/Form1Window.h"
+#include "qt/QtArtwork.h"
+#include "qt/QtShell.h"
 #include "shell/frmAbout.h"
 
 namespace tessarine {

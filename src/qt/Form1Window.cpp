@@ -1,4 +1,4 @@
-#include "shell/Form1Window.h"
+#include "qt/Form1Window.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -23,12 +23,12 @@
 #include "events/EventSelection.h"
 #include "events/EventWords.h"
 #include "events/PersonRecord.h"
-#include "rom/OpenRom.h"
+#include "qt/LinedTextBoxWidget.h"
+#include "qt/QtArtwork.h"
+#include "qt/QtListingProgress.h"
+#include "qt/QtShell.h"
 #include "scripts/ListScript.h"
-#include "shell/LinedTextBoxWidget.h"
-#include "shell/QtArtwork.h"
-#include "shell/QtListingProgress.h"
-#include "shell/QtShell.h"
+#include "shell/OpenRom.h"
 
 namespace tessarine {
 namespace {

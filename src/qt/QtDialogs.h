@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "shell/Dialogs.h"
+#include "forms/Dialogs.h"
 
 namespace tessarine {
 

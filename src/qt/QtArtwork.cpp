@@ -1,4 +1,4 @@
-#include "shell/QtArtwork.h"
+#include "qt/QtArtwork.h"
 
 #include <QLinearGradient>
 #include <QPainter>

@@ -1,10 +1,10 @@
-#include "rom/OpenRom.h"
+#include "shell/OpenRom.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "forms/Form1.h"
 #include "rom/RomImage.h"
-#include "shell/Form1.h"
 #include "support/EventFixtures.h"
 #include "support/MainSession.h"
 #include "support/ScriptedDialogs.h"

@@ -1,4 +1,4 @@
-#include "shell/QtDialogs.h"
+#include "qt/QtDialogs.h"
 
 #include <QApplication>
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "shell/QtListingProgress.h"
+#include "qt/QtListingProgress.h"
 
 #include <QThread>
 #include <QWidget>

@@ -1,12 +1,12 @@
-#include "rom/OpenRom.h"
+#include "shell/OpenRom.h"
 
 #include "events/EventSelection.h"
+#include "forms/Dialogs.h"
+#include "forms/Form1.h"
 #include "rom/Failure.h"
 #include "rom/GameProfile.h"
 #include "rom/RomImage.h"
-#include "rom/SpeciesList.h"
-#include "shell/Dialogs.h"
-#include "shell/Form1.h"
+#include "shell/SpeciesList.h"
 
 namespace tessarine {
 namespace {

@@ -3,15 +3,14 @@
 #include <cstdint>
 #include <string>
 
-#include "events/EventCatalogue.h"
-#include "rom/GameProfile.h"
-#include "events/PersonRecord.h"
-#include "shell/Controls.h"
+#include "forms/Controls.h"
 
 namespace tessarine {
 
 // The main window's record: its controls and the state of the open ROM that every tool
-// reads. The window shows these fields and nothing else.
+// reads. The window shows these fields and nothing else. The rows of the event lists and
+// of the movement list come from the tools that own them, when the window loads
+// (LoadForm1).
 struct Form1 {
   std::string title = "Tessarine Load Test";
 
@@ -34,8 +33,8 @@ struct Form1 {
   Label Label17{"About"};
 
   // Event workspace.
-  ComboBox Combo3{.rows = EventEntryTexts(kFamilyRs), .text = "Select a Event", .enabled = false};
-  ComboBox Combo4{.rows = EventEntryTexts(kFamilyFrlg), .text = "Select a Event", .visible = false};
+  ComboBox Combo3{.text = "Select a Event", .enabled = false};
+  ComboBox Combo4{.text = "Select a Event", .visible = false};
   Button Command10{.caption = "load", .enabled = false};
   Button Command9{.caption = "Save", .enabled = false};
   Label Label6{"Sprite:"};
@@ -47,7 +46,7 @@ struct Form1 {
   Label Label9{"Flag:"};
   TextBox flagtxt{"&H0000"};
   Label Label7{"Behavior:"};
-  ComboBox Combo2{.rows = MovementTypeTexts()};
+  ComboBox Combo2;
   Label Label13{"Pokemon:"};
   ComboBox Combo1;  // species, row i is species i
   TextBox Text1{"&H0000"};

@@ -5,12 +5,8 @@
 #include <functional>
 #include <memory>
 
-#include "editors/Form9.h"
-#include "rom/RomImage.h"
-#include "shell/Dialogs.h"
-#include "shell/Form1.h"
-#include "shell/ToolsMenu.h"
-#include "shell/frmAbout.h"
+#include "forms/Dialogs.h"
+#include "shell/Session.h"
 
 class QWidget;
 
@@ -20,7 +16,7 @@ class Form1Window;
 class Form9Window;
 class frmAboutWindow;
 
-// The running program: the one RomImage, the main window's record and every window.
+// The running program: its Session (the one RomImage and the records) and every window.
 // Each action of a person starts in Run, the one place where a Failure is caught and its
 // sentence shown; after the action every open window shows its record afresh.
 class QtShell : public QObject {
@@ -32,9 +28,10 @@ class QtShell : public QObject {
   explicit QtShell(Dialogs& questions);
   ~QtShell() override;
 
-  Form1& form1() { return form1_; }
-  Form7& form7() { return form7_; }
-  RomImage& rom() { return rom_; }
+  Session& session() { return session_; }
+  Form1& form1() { return session_.form1; }
+  Form7& form7() { return session_.form7; }
+  RomImage& rom() { return session_.rom; }
   Dialogs& dialogs() { return dialogs_; }
 
   void Run(const std::function<void()>& action);
@@ -73,11 +70,7 @@ class QtShell : public QObject {
   };
 
   WindowDialogs dialogs_;
-  RomImage rom_;
-  Form1 form1_;
-  Form7 form7_;
-  Form9 form9_;
-  frmAbout about_;
+  Session session_;
   std::unique_ptr<Form1Window> main_;
   QPointer<Form9Window> form9Window_;
   QPointer<frmAboutWindow> aboutWindow_;

@@ -1,11 +1,11 @@
-#include "shell/QtShell.h"
+#include "qt/QtShell.h"
 
 #include <QApplication>
 
-#include "editors/Form9Window.h"
+#include "qt/Form1Window.h"
+#include "qt/Form9Window.h"
+#include "qt/frmAboutWindow.h"
 #include "rom/Failure.h"
-#include "shell/Form1Window.h"
-#include "shell/frmAboutWindow.h"
 
 namespace tessarine {
 
@@ -46,16 +46,16 @@ void QtShell::ShowWindow(WindowName window) {
       break;
     case WindowName::Form9:
       if (!form9Window_) {
-        form9_ = Form9{};  // the dialog starts afresh each time it loads
-        form9Window_ = new Form9Window(*this, form9_);
+        session_.form9 = Form9{};  // the dialog starts afresh each time it loads
+        form9Window_ = new Form9Window(*this, session_.form9);
       }
       shown = form9Window_;
       break;
     case WindowName::frmAbout:
       if (!aboutWindow_) {
-        about_ = frmAbout{};
-        LoadAbout(about_);
-        aboutWindow_ = new frmAboutWindow(*this, about_);
+        session_.about = frmAbout{};
+        LoadAbout(session_.about);
+        aboutWindow_ = new frmAboutWindow(*this, session_.about);
       }
       shown = aboutWindow_;
       break;
@@ -93,7 +93,7 @@ QWidget* QtShell::Window(WindowName window) const {
 }
 
 void QtShell::End() {
-  rom_.Close();
+  session_.rom.Close();
   if (form9Window_) form9Window_->deleteLater();
   if (aboutWindow_) aboutWindow_->close();
   QCoreApplication::quit();

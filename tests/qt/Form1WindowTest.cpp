@@ -1,4 +1,4 @@
-#include "shell/Form1Window.h"
+#include "qt/Form1Window.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,8 +12,8 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "shell/LinedTextBoxWidget.h"
-#include "shell/QtShell.h"
+#include "qt/LinedTextBoxWidget.h"
+#include "qt/QtShell.h"
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
 #include "support/ScriptedDialogs.h"

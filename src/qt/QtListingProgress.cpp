@@ -1,8 +1,8 @@
-#include "shell/QtListingProgress.h"
+#include "qt/QtListingProgress.h"
 
 #include <cmath>
 
-#include "shell/Dialogs.h"
+#include "forms/Dialogs.h"
 
 namespace tessarine {
 namespace {

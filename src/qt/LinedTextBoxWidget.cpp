@@ -1,4 +1,4 @@
-#include "shell/LinedTextBoxWidget.h"
+#include "qt/LinedTextBoxWidget.h"
 
 #include <algorithm>
 

@@ -1,17 +1,14 @@
-#include "rom/SpeciesList.h"
+#include "shell/SpeciesList.h"
 
 #include <span>
 
+#include "forms/Form1.h"
+#include "forms/ListRows.h"
 #include "rom/HexField.h"
 #include "rom/RomImage.h"
-#include "shell/Form1.h"
 #include "text/mdlTextSapp.h"
 
 namespace tessarine {
-
-std::string NumberedRow(int index, std::string_view name) {
-  return HexDigits(static_cast<std::uint32_t>(index), 3) + " - " + std::string(name);
-}
 
 void FillSpeciesList(Form1& form, RomImage& rom) {
   rom.Seek(ParseOffset(form.Label20, "Species names offset"));

@@ -1,4 +1,4 @@
-#include "editors/Form9Window.h"
+#include "qt/Form9Window.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -9,8 +9,8 @@
 #include <QSignalBlocker>
 
 #include "editors/Form9.h"
-#include "shell/QtArtwork.h"
-#include "shell/QtShell.h"
+#include "qt/QtArtwork.h"
+#include "qt/QtShell.h"
 
 namespace tessarine {
 
