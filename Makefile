@@ -31,7 +31,7 @@ bench: deps
 screenshots: deps
 	@$(CMAKE_CONFIGURE) -B build/test -DCMAKE_BUILD_TYPE=Debug -DTESSARINE_SANITIZE=ON -DTESSARINE_WERROR=ON >/dev/null
 	@cmake --build build/test --target tessarine_screenshots
-	ASAN_OPTIONS=detect_leaks=0 xvfb-run -a -s "-screen 0 1280x1024x24" build/test/tests/tessarine_screenshots docs/screenshots
+	ASAN_OPTIONS=detect_leaks=0 xvfb-run -a -s "-screen 0 1280x1024x24" build/test/tools/screenshots/tessarine_screenshots docs/screenshots
 
 clean:
 	rm -rf build

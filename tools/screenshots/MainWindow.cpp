@@ -1,6 +1,5 @@
-// Drives the real windows on fixture ROMs and saves a picture of each, for the README
-// and for a look before a window is called done. Run it under a display server, e.g.
-//   xvfb-run -a build/test/tests/tessarine_screenshots docs/screenshots
+// The main window on FireRed and Sapphire, a listing, the Tools menu, the About box and
+// the Unsupported ROM dialog.
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -11,29 +10,16 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <cstdio>
 
+#include "Screenshots.h"
 #include "qt/Form1Window.h"
 #include "qt/QtShell.h"
 #include "support/EventFixtures.h"
 #include "support/ScriptedDialogs.h"
 #include "support/WidgetDriver.h"
 
+namespace tessarine::screenshots {
 namespace {
-
-using namespace tessarine;
-
-void Settle() {
-  for (int i = 0; i < 5; ++i) QTest::qWait(40);
-}
-
-bool Save(QWidget* window, const QDir& dir, const QString& name) {
-  Settle();
-  const QString path = dir.filePath(name);
-  const bool saved = window->grab().save(path);
-  std::printf("%s %s\n", saved ? "saved" : "FAILED", qPrintable(path));
-  return saved;
-}
 
 // Opens a fixture of the game and picks one of its events.
 void OpenAndPick(QtShell& shell, test::ScriptedDialogs& dialogs, test::FixtureRom& fixture, const char* list,
@@ -46,11 +32,7 @@ void OpenAndPick(QtShell& shell, test::ScriptedDialogs& dialogs, test::FixtureRo
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  QApplication app(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  const QDir dir(argc > 1 ? argv[1] : "docs/screenshots");
-  QDir().mkpath(dir.path());
+bool ShootMainWindow(const QDir& dir) {
   bool ok = true;
 
   test::FixtureRom fireRed = test::EventFixtureRom("BPRE");
@@ -101,5 +83,7 @@ int main(int argc, char** argv) {
     QTest::mouseClick(window.findChild<QWidget*>("Image3"), Qt::LeftButton, {}, QPoint(6, 6));
     ok &= Save(shell.Window(WindowName::Form9), dir, "unsupported-rom.png");
   }
-  return ok ? 0 : 1;
+  return ok;
 }
+
+}  // namespace tessarine::screenshots

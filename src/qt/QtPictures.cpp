@@ -1,0 +1,36 @@
+#include "qt/QtPictures.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+
+namespace tessarine {
+
+PictureFile LoadPictureFile(const QString& path) {
+  const QString name = QFileInfo(path).fileName();
+  QImageReader reader(path);
+  reader.setAutoTransform(false);
+  reader.setDecideFormatFromContent(true);
+  if (!reader.canRead()) {
+    return {{}, "\"" + name + "\" is no picture that can be read (a BMP, GIF or JPEG file)."};
+  }
+  const QSize size = reader.size();
+  if (!size.isValid() || size.isEmpty()) {
+    return {{}, "\"" + name + "\" does not tell the size of its picture, so it was not read."};
+  }
+  if (size.width() > kMaxPictureSide || size.height() > kMaxPictureSide ||
+      qint64{size.width()} * size.height() > kMaxPicturePixels) {
+    return {{}, QString("\"%1\" holds a picture of %2 by %3 pixels, more than the %4 by %4 that can be shown, "
+                        "so it was not read.")
+                    .arg(name)
+                    .arg(size.width())
+                    .arg(size.height())
+                    .arg(kMaxPictureSide)};
+  }
+  QImage image = reader.read();
+  if (image.isNull()) {
+    return {{}, "\"" + name + "\" could not be read as a picture: " + reader.errorString() + "."};
+  }
+  return {image, {}};
+}
+
+}  // namespace tessarine
