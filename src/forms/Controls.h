@@ -18,6 +18,7 @@ struct TextBox {
   std::string text;
   bool enabled = true;
   bool visible = true;
+  std::string toolTip;  // shown when the mouse rests on the box; empty for none
 };
 
 struct Button {

@@ -26,6 +26,9 @@ struct Form1 {
   std::string regi2;
   std::string regi3;
   std::string itemRecords;  // set when the give-Pokemon builder loads, or by Form9
+  // How many times Open ROM has run. What a tool read from the ROM remembers this count,
+  // so that it knows whether it still belongs to the ROM that is open.
+  int romOpenings = 0;
 
   // The three image buttons along the top, with their labels.
   Label Label15{"Open"};

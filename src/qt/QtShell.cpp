@@ -3,9 +3,12 @@
 #include <QApplication>
 
 #include "qt/Form1Window.h"
+#include "qt/Form5Window.h"
 #include "qt/Form9Window.h"
+#include "qt/WildBattleWindows.h"
 #include "qt/frmAboutWindow.h"
 #include "rom/Failure.h"
+#include "shell/ScriptForms.h"
 
 namespace tessarine {
 
@@ -13,6 +16,9 @@ QtShell::QtShell(Dialogs& questions)
     : dialogs_(*this, questions), main_(std::make_unique<Form1Window>(*this)) {}
 
 QtShell::~QtShell() {
+  delete form3Window_.data();
+  delete form4Window_.data();
+  delete form5Window_.data();
   delete form9Window_.data();
   delete aboutWindow_.data();
 }
@@ -34,6 +40,9 @@ void QtShell::Run(const std::function<void()>& action) {
 
 void QtShell::RefreshAll() {
   main_->Refresh();
+  if (form3Window_) form3Window_->Refresh();
+  if (form4Window_) form4Window_->Refresh();
+  if (form5Window_) form5Window_->Refresh();
   if (form9Window_) form9Window_->Refresh();
   if (aboutWindow_) aboutWindow_->Refresh();
 }
@@ -43,6 +52,27 @@ void QtShell::ShowWindow(WindowName window) {
   switch (window) {
     case WindowName::Form1:
       shown = main_.get();
+      break;
+    case WindowName::Form3:
+      if (!form3Window_) {
+        LoadForm3(session_);
+        form3Window_ = new Form3Window(*this, session_.form3);
+      }
+      shown = form3Window_;
+      break;
+    case WindowName::Form4:
+      if (!form4Window_) {
+        LoadForm4(session_);
+        form4Window_ = new Form4Window(*this, session_.form4);
+      }
+      shown = form4Window_;
+      break;
+    case WindowName::Form5:
+      if (!form5Window_) {
+        LoadForm5(session_);
+        form5Window_ = new Form5Window(*this, session_.form5);
+      }
+      shown = form5Window_;
       break;
     case WindowName::Form9:
       if (!form9Window_) {
@@ -72,6 +102,15 @@ void QtShell::HideWindow(WindowName window) {
     case WindowName::Form1:
       main_->hide();
       break;
+    case WindowName::Form3:
+      if (form3Window_) form3Window_->close();  // closing drops it; it loads afresh next time
+      break;
+    case WindowName::Form4:
+      if (form4Window_) form4Window_->close();
+      break;
+    case WindowName::Form5:
+      if (form5Window_) form5Window_->close();
+      break;
     case WindowName::Form9:
       if (form9Window_) form9Window_->close();  // closing drops it; it loads afresh next time
       break;
@@ -86,6 +125,9 @@ void QtShell::HideWindow(WindowName window) {
 QWidget* QtShell::Window(WindowName window) const {
   switch (window) {
     case WindowName::Form1: return main_.get();
+    case WindowName::Form3: return form3Window_;
+    case WindowName::Form4: return form4Window_;
+    case WindowName::Form5: return form5Window_;
     case WindowName::Form9: return form9Window_;
     case WindowName::frmAbout: return aboutWindow_;
     default: return nullptr;

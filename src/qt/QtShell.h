@@ -13,6 +13,9 @@ class QWidget;
 namespace tessarine {
 
 class Form1Window;
+class Form3Window;
+class Form4Window;
+class Form5Window;
 class Form9Window;
 class frmAboutWindow;
 
@@ -72,6 +75,9 @@ class QtShell : public QObject {
   WindowDialogs dialogs_;
   Session session_;
   std::unique_ptr<Form1Window> main_;
+  QPointer<Form3Window> form3Window_;
+  QPointer<Form4Window> form4Window_;
+  QPointer<Form5Window> form5Window_;
   QPointer<Form9Window> form9Window_;
   QPointer<frmAboutWindow> aboutWindow_;
   bool running_ = false;

@@ -49,6 +49,7 @@ void ApplyProfile(Form1& form, const GameProfile& profile) {
 void OpenRom(Form1& form, RomImage& rom, Dialogs& dialogs) {
   form.Combo1.Clear();
   rom.Close();
+  ++form.romOpenings;  // from here on, what was read from the file before belongs to no open ROM
   const std::string path = dialogs.OpenFile("Open", "Pokemon Advance rom|*.gba");
   if (path.empty()) return;
 

@@ -1,8 +1,12 @@
 #pragma once
 
+#include <optional>
+
 #include "editors/Form9.h"
 #include "forms/Form1.h"
 #include "rom/RomImage.h"
+#include "scripts/Form5.h"
+#include "scripts/WildBattleForms.h"
 #include "shell/ToolsMenu.h"
 #include "shell/frmAbout.h"
 
@@ -22,6 +26,12 @@ struct Session {
   Form7 form7;
   Form9 form9;
   frmAbout about;
+  Form3 form3;
+  Form4 form4;
+  Form5 form5;
+  // While Form5 is loaded, shown or not: the Open ROM (Form1::romOpenings) after which its
+  // lists were read. See RequireForm5Loaded (shell/ScriptForms.h).
+  std::optional<int> form5LoadedAt;
 };
 
 }  // namespace tessarine

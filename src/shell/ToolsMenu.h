@@ -24,8 +24,8 @@ struct Form7 {
   std::string mnuptroCaption = "Tessarine";
   std::array<MenuItem, 10> mnuptro{{
       {MenuEntry::nfdn, "~Tools~", false},
-      {MenuEntry::mnuwbs, "Insert Wild Battle Script", false},
-      {MenuEntry::mnugps, "Insert Give Pokemon Script", false},
+      {MenuEntry::mnuwbs, "Insert Wild Battle Script", true},
+      {MenuEntry::mnugps, "Insert Give Pokemon Script", true},
       {MenuEntry::mnuib, "Insert Braille", false},
       {MenuEntry::mnustart, "Starter Editor", false},
       {MenuEntry::mnuflin, "Wingfall", false},

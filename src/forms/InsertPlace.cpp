@@ -1,0 +1,42 @@
+#include "forms/InsertPlace.h"
+
+#include <string>
+
+#include "rom/Failure.h"
+#include "rom/HexField.h"
+#include "rom/RomImage.h"
+
+namespace tessarine {
+namespace {
+
+std::string FieldAndText(std::string_view field, std::string_view text) {
+  return std::string(field) + ": \"" + std::string(text) + "\"";
+}
+
+std::string HexLength(std::int64_t length) {
+  return length <= INT32_MAX ? ToHexText(static_cast<std::int32_t>(length)) : std::to_string(length);
+}
+
+}  // namespace
+
+RomOffset ParseInsertOffset(std::string_view text, std::string_view field) {
+  const RomOffset offset = ParseOffset(text, field);
+  if (offset >= kCartridgeHeaderEnd) return offset;
+  const std::string where =
+      offset < 0 ? " lies before the start of the ROM."
+                 : " lies inside the cartridge header, which runs up to " + ToHexText(kCartridgeHeaderEnd) +
+                       ", and would write over it.";
+  throw Failure(FieldAndText(field, text) + where + " Type the offset of free space (a place with lots of FFs).");
+}
+
+void RequireInsideRom(RomImage& rom, RomOffset at, std::int64_t length, std::string_view what,
+                      std::string_view field, std::string_view text) {
+  if (!rom.IsOpen()) throw Failure("No ROM is open. Open a ROM first.");
+  const std::int64_t romLength = rom.Length();
+  if (at >= 0 && at + length <= romLength) return;
+  throw Failure(FieldAndText(field, text) + ": " + std::string(what) + ", " + std::to_string(length) +
+                " bytes from " + ToHexText(at) + ", would run past the end of the ROM, which is " +
+                HexLength(romLength) + " bytes long.");
+}
+
+}  // namespace tessarine

@@ -1,0 +1,63 @@
+#pragma once
+
+// Copies the records of controls into their widgets. The callers block the widgets'
+// signals first, so that nothing a copy changes runs an action.
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QString>
+#include <QStringList>
+#include <string>
+#include <vector>
+
+#include "forms/Controls.h"
+
+namespace tessarine {
+
+inline QString ToQString(const std::string& text) { return QString::fromStdString(text); }
+
+inline void Sync(QLineEdit* widget, const TextBox& box) {
+  if (widget->text() != ToQString(box.text)) widget->setText(ToQString(box.text));
+  widget->setToolTip(ToQString(box.toolTip));
+  widget->setEnabled(box.enabled);
+  widget->setVisible(box.visible);
+}
+
+inline void Sync(QAbstractButton* widget, const Button& button) {
+  widget->setText(ToQString(button.caption));
+  widget->setEnabled(button.enabled);
+  widget->setVisible(button.visible);
+}
+
+inline void Sync(QLabel* widget, const Label& label) {
+  widget->setText(ToQString(label.caption));
+  widget->setVisible(label.visible);
+}
+
+// A drop-down list; remembers the rows it last gave its widget, so that a refresh fills
+// the widget only when they changed.
+class ComboSync {
+ public:
+  void operator()(QComboBox* widget, const ComboBox& combo) {
+    if (shownRows_ != combo.rows) {
+      widget->clear();
+      QStringList rows;
+      rows.reserve(static_cast<qsizetype>(combo.rows.size()));
+      for (const std::string& row : combo.rows) rows << ToQString(row);
+      widget->addItems(rows);
+      shownRows_ = combo.rows;
+    }
+    if (widget->currentIndex() != combo.selected) widget->setCurrentIndex(combo.selected);
+    if (widget->isEditable() && widget->currentText() != ToQString(combo.text)) {
+      widget->setEditText(ToQString(combo.text));
+    }
+    widget->setEnabled(combo.enabled);
+    widget->setVisible(combo.visible);
+  }
+
+ private:
+  std::vector<std::string> shownRows_;
+};
+
+}  // namespace tessarine

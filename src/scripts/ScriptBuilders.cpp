@@ -1,0 +1,113 @@
+#include "scripts/ScriptBuilders.h"
+
+#include "rom/RomImage.h"
+#include "text/Table2Text.h"
+
+namespace tessarine {
+namespace {
+
+// Appends little-endian values as a script lays them out.
+class ScriptBytes {
+ public:
+  ScriptBytes& Byte(std::uint8_t value) {
+    bytes_.push_back(value);
+    return *this;
+  }
+  ScriptBytes& Word(std::int16_t value) {
+    const auto bits = static_cast<std::uint16_t>(value);
+    return Byte(static_cast<std::uint8_t>(bits)).Byte(static_cast<std::uint8_t>(bits >> 8));
+  }
+  ScriptBytes& Pointer(RomOffset offset) {
+    const auto bits = static_cast<std::uint32_t>(ToGbaPointer(offset));
+    for (int shift = 0; shift < 32; shift += 8) Byte(static_cast<std::uint8_t>(bits >> shift));
+    return *this;
+  }
+  ScriptBytes& Zeros(int count) {
+    bytes_.insert(bytes_.end(), static_cast<std::size_t>(count), 0x00);
+    return *this;
+  }
+  Bytes Take() { return std::move(bytes_); }
+
+ private:
+  Bytes bytes_;
+};
+
+// wildpkmnbattle, cry, end: the tail that both wild battle scripts share.
+ScriptBytes& BattleAndCry(ScriptBytes& script, std::int16_t species, std::uint8_t level, std::int16_t item,
+                          std::int16_t cry) {
+  return script.Byte(0xB6).Word(species).Byte(level).Word(item).Byte(0x30).Byte(0xA1).Word(cry).Byte(0x02);
+}
+
+// msgbox to a text behind the script offset, boxset 4, 0x6B, end.
+Bytes MessageBranch(RomOffset scriptOffset, int textAt) {
+  return ScriptBytes()
+      .Byte(0x0F)
+      .Pointer(OffsetPlus(scriptOffset, textAt))
+      .Byte(0x09)
+      .Byte(0x04)
+      .Byte(0x6B)
+      .Byte(0x02)
+      .Take();
+}
+
+}  // namespace
+
+Bytes BuildWildBattleScript(std::int16_t species, std::uint8_t level, std::int16_t item, std::int16_t cry) {
+  ScriptBytes script;
+  script.Byte(0x6A).Byte(0x5A);
+  return BattleAndCry(script, species, level, item, cry).Take();
+}
+
+Bytes BuildWildBattleMessageScript(std::int16_t species, std::uint8_t level, std::int16_t item, std::int16_t cry,
+                                   RomOffset textOffset) {
+  ScriptBytes script;
+  script.Byte(0x6A).Byte(0x5A).Byte(0x0F).Pointer(textOffset).Byte(0x09).Byte(0x06);
+  return BattleAndCry(script, species, level, item, cry).Take();
+}
+
+Bytes BuildGivePokemonBody(std::int16_t species, std::uint8_t level, std::int16_t item, RomOffset scriptOffset,
+                           RomOffset textOffset) {
+  return ScriptBytes()
+      .Byte(0x69)                                                    // jingle
+      .Byte(0x0F).Pointer(textOffset)                                // msgbox: the question
+      .Byte(0x09).Byte(0x05)                                         // boxset 5: yes or no
+      .Byte(0x21).Word(static_cast<std::int16_t>(0x800D)).Word(0x0000)  // compare the answer with no
+      .Byte(0x06).Byte(0x01).Pointer(OffsetPlus(scriptOffset, kDeclinedBranchAt)).Byte(0x43)
+      .Byte(0x21).Word(static_cast<std::int16_t>(0x800D)).Word(0x0006)  // compare the party with full
+      .Byte(0x06).Byte(0x01).Pointer(OffsetPlus(scriptOffset, kNoRoomBranchAt)).Byte(0x19)
+      .Word(static_cast<std::int16_t>(0x8004)).Word(static_cast<std::int16_t>(0x800D))
+      .Byte(0x53).Word(0x0002).Byte(0x31).Word(0x0172).Byte(0x67).Byte(0x61).Byte(0x32).Byte(0x66)
+      .Byte(0x79).Word(species).Byte(level).Word(item).Zeros(17)     // givepokemon
+      .Byte(0x7D).Word(species).Byte(0x01)
+      .Byte(0x0F).Byte(0x00).Byte(0x02)
+      .Take();
+}
+
+Bytes BuildDeclinedBranch(RomOffset scriptOffset) { return MessageBranch(scriptOffset, kDeclinedTextAt); }
+Bytes BuildNoRoomBranch(RomOffset scriptOffset) { return MessageBranch(scriptOffset, kNoRoomTextAt); }
+
+std::vector<ScriptPiece> GivePokemonPieces(std::int16_t species, std::uint8_t level, std::int16_t item,
+                                           RomOffset scriptOffset, RomOffset textOffset) {
+  const auto at = [scriptOffset](int distance) { return OffsetPlus(scriptOffset, distance); };
+  std::vector<ScriptPiece> pieces;
+  pieces.push_back({scriptOffset, BuildGivePokemonBody(species, level, item, scriptOffset, textOffset)});
+  pieces.push_back({at(kDeclinedBranchAt), BuildDeclinedBranch(scriptOffset)});
+  pieces.push_back({at(kNoRoomBranchAt), BuildNoRoomBranch(scriptOffset)});
+  pieces.push_back({at(kDeclinedTextAt), EncodeMessageText(kDeclinedText)});
+  pieces.push_back({at(kNoRoomTextAt), EncodeMessageText(kNoRoomText)});
+  return pieces;
+}
+
+Bytes MessageTextBytes(std::string_view message) {
+  Bytes bytes = EncodeMessageText(message);
+  bytes.push_back(0xFF);  // the word 0x00FF
+  bytes.push_back(0x00);
+  return bytes;
+}
+
+void WriteMessageText(RomImage& rom, RomOffset textOffset, std::string_view message) {
+  // One write: a text that does not fit is refused whole, its end bytes with it.
+  rom.WriteBytes(textOffset, MessageTextBytes(message));
+}
+
+}  // namespace tessarine

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/Controls.h"
+#include "scripts/BuilderForms.h"
+
+namespace tessarine {
+
+class RomImage;
+class Dialogs;
+
+// "Insert Wild Battle Script", in two forms: Form3 writes the battle alone, Form4 puts a
+// message in front of it and asks for the message's text.
+
+// The controls that both forms have.
+struct WildBattleForm {
+  std::string title = "Insert Wild Battle Script";
+  Label Label1{"Pokemon:"};
+  ComboBox Combo1{.text = "Select a Pokemon"};  // the species list, copied from the main window's
+  TextBox pkmntxt{"&H0000"};
+  Label Label2{"PKMN Cry:"};
+  TextBox crytxt{"&H0000"};
+  Label Label3{"Level"};
+  ComboBox Combo3{.rows = LevelRows()};
+  Label Label4{"Held Item: "};
+  ComboBox Combo2;  // the item list, copied from Form5's
+  TextBox Text2{.text = "&H0000", .visible = false};  // held item, set by Combo2
+  Label Label5{"Offset:"};
+  TextBox Text3{"&H000000"};
+  Button Command1{"Insert Teh Script"};
+  Button Command2{.visible = false};  // holds the copy of the species list
+  Button Command3{.visible = false};  // holds the copy of the item list
+};
+
+inline constexpr std::string_view kScriptOffsetTip =
+    "Type an offset of Freespace(Refered a place with lots of FFs)  to insert this Script.";
+
+struct Form3 : WildBattleForm {
+  TextBox Text1{.text = "&H00", .visible = false};  // level, set by Combo3
+};
+
+struct Form4 : WildBattleForm {
+  Form4() {
+    Label3.caption = "Level:";
+    Text3.toolTip = kScriptOffsetTip;
+  }
+  TextBox Text14{.text = "&H00", .visible = false};  // level, set by Combo3
+  Label Label6{"Text Offset:"};
+  TextBox Text12{.text = "&H000000", .toolTip = "Type an offset to insert your new text for this event."};
+  Label Label7{"Note: You will be prompted to type your custom message after you Click Insert."};
+};
+
+// The load: Command2 copies the species rows, Command3 empties Combo2 and copies the item
+// rows. Nothing is selected, so every field keeps its initial text until a row is chosen.
+void LoadWildBattleLists(WildBattleForm& form, const std::vector<std::string>& speciesRows,
+                         const std::vector<std::string>& itemRows);
+
+// Choosing a row puts its number into the fields behind the list: a species goes into both
+// pkmntxt and crytxt, a level into the hidden level field, an item into Text2.
+void SetCombo1Selection(WildBattleForm& form, int index);
+void SetCombo2Selection(WildBattleForm& form, int index);
+void SetCombo3Selection(Form3& form, int index);
+void SetCombo3Selection(Form4& form, int index);
+
+// "Insert Teh Script". Form3 parses pkmntxt, Text1, crytxt, Text2, Text3; Form4 pkmntxt,
+// Text14, crytxt, Text2, Text12, Text3. Every parse, and the check that each piece lies in
+// the file, comes before the first write, so a failure there writes nothing and leaves the
+// form as it was. Then the script goes to Text3; Form4 asks for the message and writes it
+// at Text12. "Inserted", and the form closes.
+void InsertWildBattle(Form3& form, RomImage& rom, Dialogs& dialogs);
+void InsertWildBattle(Form4& form, RomImage& rom, Dialogs& dialogs);
+
+}  // namespace tessarine
