@@ -48,7 +48,9 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
   Image1_->setPixmap(EmblemPicture(72));
   Combo1_->setMinimumContentsLength(18);
   for (QComboBox* list : {Combo1_, Combo2_, Combo3_}) list->setMaxVisibleItems(20);
-  for (QLineEdit* number : {pkmntxt_, Text3_, Text12_}) number->setFixedWidth(100);
+  for (QWidget* number : std::initializer_list<QWidget*>{pkmntxt_, Combo3_, Text3_, Text12_}) {
+    number->setFixedWidth(100);
+  }
   Command1_->setDefault(true);
 
   auto* grid = new QGridLayout(this);

@@ -53,7 +53,9 @@ WildBattleWindow::WildBattleWindow(QtShell& shell, WildBattleForm& form, const c
   Text3_ = EnterInserts(Named(new QLineEdit(this), "Text3"));
   Command1_ = Named(new QPushButton(this), "Command1");
   Command1_->setDefault(true);
-  for (QLineEdit* number : {pkmntxt_, crytxt_, Text3_}) number->setFixedWidth(kNumberWidth);
+  for (QWidget* number : std::initializer_list<QWidget*>{pkmntxt_, crytxt_, Combo3_, Text3_}) {
+    number->setFixedWidth(kNumberWidth);
+  }
 
   grid_->setContentsMargins(14, 14, 14, 14);
   grid_->setHorizontalSpacing(8);
