@@ -1,0 +1,49 @@
+// The three script builders on a Sapphire fixture: a wild battle, the same with a message,
+// and the give-Pokemon script, each with rows chosen and offsets typed.
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "Screenshots.h"
+#include "qt/QtShell.h"
+#include "shell/OpenRom.h"
+#include "support/EventFixtures.h"
+#include "support/ScriptedDialogs.h"
+#include "support/WidgetDriver.h"
+
+namespace tessarine::screenshots {
+
+bool ShootScriptBuilders(const QDir& dir) {
+  test::FixtureRom sapphire = test::EventFixtureRom("AXPE");
+  const char* const items[] = {"Nothing", "Master Ball", "Ultra Ball", "Great Ball", "Poke Ball"};
+  for (std::size_t i = 0; i < std::size(items); ++i) sapphire.PutName(0x3C55BC + 44 * i, items[i], 14);
+
+  test::ScriptedDialogs dialogs;
+  dialogs.openFileAnswers.push_back(sapphire.path());
+  dialogs.messageAnswers = {MessageAnswer::No, MessageAnswer::Yes};
+  QtShell shell(dialogs);
+  shell.Run([&] { OpenRom(shell.form1(), shell.rom(), shell.dialogs()); });
+
+  struct Shot {
+    MenuEntry entry;
+    WindowName window;
+    const char* file;
+  };
+  const Shot shots[] = {{MenuEntry::mnuwbs, WindowName::Form3, "wild-battle.png"},
+                        {MenuEntry::mnuwbs, WindowName::Form4, "wild-battle-message.png"},
+                        {MenuEntry::mnugps, WindowName::Form5, "give-pokemon.png"}};
+  bool ok = true;
+  for (const Shot& shot : shots) {
+    shell.Run([&] { RunMenuEntry(shot.entry, shell.form1(), shell.rom(), shell.dialogs()); });
+    QWidget* form = shell.Window(shot.window);
+    if (form == nullptr) return false;
+    test::Pick(form->findChild<QComboBox*>("Combo1"), 0x19);
+    test::Pick(form->findChild<QComboBox*>("Combo3"), 25);
+    test::Pick(form->findChild<QComboBox*>("Combo2"), 3);
+    test::Type(form->findChild<QLineEdit*>("Text3"), "&H800000");
+    if (auto* text = form->findChild<QLineEdit*>("Text12")) test::Type(text, "&H800200");
+    ok &= Save(form, dir, shot.file);
+  }
+  return ok;
+}
+
+}  // namespace tessarine::screenshots
