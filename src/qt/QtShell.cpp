@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "qt/Form1Window.h"
+#include "qt/Form8Window.h"
 #include "qt/Form9Window.h"
 #include "qt/frmAboutWindow.h"
 #include "rom/Failure.h"
@@ -13,6 +14,7 @@ QtShell::QtShell(Dialogs& questions)
     : dialogs_(*this, questions), main_(std::make_unique<Form1Window>(*this)) {}
 
 QtShell::~QtShell() {
+  delete form8Window_.data();
   delete form9Window_.data();
   delete aboutWindow_.data();
 }
@@ -34,6 +36,7 @@ void QtShell::Run(const std::function<void()>& action) {
 
 void QtShell::RefreshAll() {
   main_->Refresh();
+  if (form8Window_) form8Window_->Refresh();
   if (form9Window_) form9Window_->Refresh();
   if (aboutWindow_) aboutWindow_->Refresh();
 }
@@ -43,6 +46,14 @@ void QtShell::ShowWindow(WindowName window) {
   switch (window) {
     case WindowName::Form1:
       shown = main_.get();
+      break;
+    case WindowName::Form8:
+      if (!form8Window_) {  // a new window opens afresh, on the game code that stands now
+        session_.form8 = Form8{};
+        LoadForm8(session_.form8, session_.form1.headtxt, dialogs_);
+        form8Window_ = new Form8Window(*this, session_.form8);
+      }
+      shown = form8Window_;
       break;
     case WindowName::Form9:
       if (!form9Window_) {
@@ -72,6 +83,9 @@ void QtShell::HideWindow(WindowName window) {
     case WindowName::Form1:
       main_->hide();
       break;
+    case WindowName::Form8:
+      if (form8Window_) form8Window_->close();
+      break;
     case WindowName::Form9:
       if (form9Window_) form9Window_->close();  // closing drops it; it loads afresh next time
       break;
@@ -86,6 +100,7 @@ void QtShell::HideWindow(WindowName window) {
 QWidget* QtShell::Window(WindowName window) const {
   switch (window) {
     case WindowName::Form1: return main_.get();
+    case WindowName::Form8: return form8Window_;
     case WindowName::Form9: return form9Window_;
     case WindowName::frmAbout: return aboutWindow_;
     default: return nullptr;
@@ -94,6 +109,7 @@ QWidget* QtShell::Window(WindowName window) const {
 
 void QtShell::End() {
   session_.rom.Close();
+  if (form8Window_) form8Window_->close();
   if (form9Window_) form9Window_->deleteLater();
   if (aboutWindow_) aboutWindow_->close();
   QCoreApplication::quit();

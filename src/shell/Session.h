@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editors/Form9.h"
+#include "flyland/Form8.h"
 #include "forms/Form1.h"
 #include "rom/RomImage.h"
 #include "shell/ToolsMenu.h"
@@ -20,6 +21,7 @@ struct Session {
   RomImage rom;
   Form1 form1;
   Form7 form7;
+  Form8 form8;
   Form9 form9;
   frmAbout about;
 };
