@@ -1,13 +1,13 @@
 #include "qt/QtPictures.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImageReader>
 
 namespace tessarine {
+namespace {
 
-PictureFile LoadPictureFile(const QString& path) {
-  const QString name = QFileInfo(path).fileName();
-  QImageReader reader(path);
+PictureFile ReadBounded(QImageReader& reader, const QString& name) {
   reader.setAutoTransform(false);
   reader.setDecideFormatFromContent(true);
   if (!reader.canRead()) {
@@ -31,6 +31,21 @@ PictureFile LoadPictureFile(const QString& path) {
     return {{}, "\"" + name + "\" could not be read as a picture: " + reader.errorString() + "."};
   }
   return {image, {}};
+}
+
+}  // namespace
+
+PictureFile LoadPictureFile(const QString& path) {
+  QImageReader reader(path);
+  return ReadBounded(reader, QFileInfo(path).fileName());
+}
+
+PictureFile LoadPictureData(const QByteArray& bytes, const QString& name) {
+  QBuffer buffer;
+  buffer.setData(bytes);
+  buffer.open(QIODevice::ReadOnly);
+  QImageReader reader(&buffer);
+  return ReadBounded(reader, name);
 }
 
 }  // namespace tessarine

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QString>
 
@@ -21,5 +22,9 @@ struct PictureFile {
 // Reads a BMP, GIF or JPEG file (the format is told by its content), refusing one whose
 // size is unknown or beyond the bounds above without decoding it.
 PictureFile LoadPictureFile(const QString& path);
+
+// The same for the bytes of a picture held in memory, such as one on the clipboard;
+// `name` names it in the problem.
+PictureFile LoadPictureData(const QByteArray& bytes, const QString& name);
 
 }  // namespace tessarine

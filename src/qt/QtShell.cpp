@@ -4,6 +4,7 @@
 
 #include "qt/Form1Window.h"
 #include "qt/Form5Window.h"
+#include "qt/Form8Window.h"
 #include "qt/Form9Window.h"
 #include "qt/WildBattleWindows.h"
 #include "qt/frmAboutWindow.h"
@@ -19,6 +20,7 @@ QtShell::~QtShell() {
   delete form3Window_.data();
   delete form4Window_.data();
   delete form5Window_.data();
+  delete form8Window_.data();
   delete form9Window_.data();
   delete aboutWindow_.data();
 }
@@ -43,6 +45,7 @@ void QtShell::RefreshAll() {
   if (form3Window_) form3Window_->Refresh();
   if (form4Window_) form4Window_->Refresh();
   if (form5Window_) form5Window_->Refresh();
+  if (form8Window_) form8Window_->Refresh();
   if (form9Window_) form9Window_->Refresh();
   if (aboutWindow_) aboutWindow_->Refresh();
 }
@@ -73,6 +76,14 @@ void QtShell::ShowWindow(WindowName window) {
         form5Window_ = new Form5Window(*this, session_.form5);
       }
       shown = form5Window_;
+      break;
+    case WindowName::Form8:
+      if (!form8Window_) {  // a new window opens afresh, on the game code that stands now
+        session_.form8 = Form8{};
+        LoadForm8(session_.form8, session_.form1.headtxt, dialogs_);
+        form8Window_ = new Form8Window(*this, session_.form8);
+      }
+      shown = form8Window_;
       break;
     case WindowName::Form9:
       if (!form9Window_) {
@@ -111,6 +122,9 @@ void QtShell::HideWindow(WindowName window) {
     case WindowName::Form5:
       if (form5Window_) form5Window_->close();
       break;
+    case WindowName::Form8:
+      if (form8Window_) form8Window_->close();
+      break;
     case WindowName::Form9:
       if (form9Window_) form9Window_->close();  // closing drops it; it loads afresh next time
       break;
@@ -128,6 +142,7 @@ QWidget* QtShell::Window(WindowName window) const {
     case WindowName::Form3: return form3Window_;
     case WindowName::Form4: return form4Window_;
     case WindowName::Form5: return form5Window_;
+    case WindowName::Form8: return form8Window_;
     case WindowName::Form9: return form9Window_;
     case WindowName::frmAbout: return aboutWindow_;
     default: return nullptr;
@@ -136,6 +151,7 @@ QWidget* QtShell::Window(WindowName window) const {
 
 void QtShell::End() {
   session_.rom.Close();
+  if (form8Window_) form8Window_->close();
   if (form9Window_) form9Window_->deleteLater();
   if (aboutWindow_) aboutWindow_->close();
   QCoreApplication::quit();

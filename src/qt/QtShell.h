@@ -16,6 +16,7 @@ class Form1Window;
 class Form3Window;
 class Form4Window;
 class Form5Window;
+class Form8Window;
 class Form9Window;
 class frmAboutWindow;
 
@@ -78,6 +79,7 @@ class QtShell : public QObject {
   QPointer<Form3Window> form3Window_;
   QPointer<Form4Window> form4Window_;
   QPointer<Form5Window> form5Window_;
+  QPointer<Form8Window> form8Window_;
   QPointer<Form9Window> form9Window_;
   QPointer<frmAboutWindow> aboutWindow_;
   bool running_ = false;

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "editors/Form9.h"
+#include "flyland/Form8.h"
 #include "forms/Form1.h"
 #include "rom/RomImage.h"
 #include "scripts/Form5.h"
@@ -24,6 +25,7 @@ struct Session {
   RomImage rom;
   Form1 form1;
   Form7 form7;
+  Form8 form8;
   Form9 form9;
   frmAbout about;
   Form3 form3;

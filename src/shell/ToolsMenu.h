@@ -28,7 +28,7 @@ struct Form7 {
       {MenuEntry::mnugps, "Insert Give Pokemon Script", true},
       {MenuEntry::mnuib, "Insert Braille", false},
       {MenuEntry::mnustart, "Starter Editor", false},
-      {MenuEntry::mnuflin, "Wingfall", false},
+      {MenuEntry::mnuflin, "Wingfall", true},
       {MenuEntry::mnuedipmon, "Edit Pokemon Name", false},
       {MenuEntry::mnuediten, "Edit Item Name", false},
       {MenuEntry::fhn, "~Programs~", false},
