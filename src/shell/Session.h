@@ -1,5 +1,6 @@
 #pragma once
 
+#include "braille/Form6.h"
 #include "editors/Form9.h"
 #include "forms/Form1.h"
 #include "rom/RomImage.h"
@@ -19,6 +20,7 @@ struct Session {
 
   RomImage rom;
   Form1 form1;
+  Form6 form6;
   Form7 form7;
   Form9 form9;
   frmAbout about;
