@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "qt/Form1Window.h"
+#include "qt/Form6Window.h"
 #include "qt/Form9Window.h"
 #include "qt/frmAboutWindow.h"
 #include "rom/Failure.h"
@@ -13,6 +14,7 @@ QtShell::QtShell(Dialogs& questions)
     : dialogs_(*this, questions), main_(std::make_unique<Form1Window>(*this)) {}
 
 QtShell::~QtShell() {
+  delete form6Window_.data();
   delete form9Window_.data();
   delete aboutWindow_.data();
 }
@@ -34,6 +36,7 @@ void QtShell::Run(const std::function<void()>& action) {
 
 void QtShell::RefreshAll() {
   main_->Refresh();
+  if (form6Window_) form6Window_->Refresh();
   if (form9Window_) form9Window_->Refresh();
   if (aboutWindow_) aboutWindow_->Refresh();
 }
@@ -43,6 +46,13 @@ void QtShell::ShowWindow(WindowName window) {
   switch (window) {
     case WindowName::Form1:
       shown = main_.get();
+      break;
+    case WindowName::Form6:
+      if (!form6Window_) {
+        session_.form6 = Form6{};  // the window starts afresh each time it loads
+        form6Window_ = new Form6Window(*this, session_.form6);
+      }
+      shown = form6Window_;
       break;
     case WindowName::Form9:
       if (!form9Window_) {
@@ -72,6 +82,9 @@ void QtShell::HideWindow(WindowName window) {
     case WindowName::Form1:
       main_->hide();
       break;
+    case WindowName::Form6:
+      if (form6Window_) form6Window_->close();
+      break;
     case WindowName::Form9:
       if (form9Window_) form9Window_->close();  // closing drops it; it loads afresh next time
       break;
@@ -86,6 +99,7 @@ void QtShell::HideWindow(WindowName window) {
 QWidget* QtShell::Window(WindowName window) const {
   switch (window) {
     case WindowName::Form1: return main_.get();
+    case WindowName::Form6: return form6Window_;
     case WindowName::Form9: return form9Window_;
     case WindowName::frmAbout: return aboutWindow_;
     default: return nullptr;
@@ -94,6 +108,7 @@ QWidget* QtShell::Window(WindowName window) const {
 
 void QtShell::End() {
   session_.rom.Close();
+  if (form6Window_) form6Window_->close();  // closing the main window ends every tool
   if (form9Window_) form9Window_->deleteLater();
   if (aboutWindow_) aboutWindow_->close();
   QCoreApplication::quit();

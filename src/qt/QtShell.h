@@ -13,6 +13,7 @@ class QWidget;
 namespace tessarine {
 
 class Form1Window;
+class Form6Window;
 class Form9Window;
 class frmAboutWindow;
 
@@ -72,6 +73,7 @@ class QtShell : public QObject {
   WindowDialogs dialogs_;
   Session session_;
   std::unique_ptr<Form1Window> main_;
+  QPointer<Form6Window> form6Window_;
   QPointer<Form9Window> form9Window_;
   QPointer<frmAboutWindow> aboutWindow_;
   bool running_ = false;
