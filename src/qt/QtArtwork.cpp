@@ -160,13 +160,13 @@ QPixmap BrailleScreenshotPicture() {
   }
   // The traveller, seen from behind, facing the tablet.
   p.setBrush(QColor(0x00, 0x00, 0x00, 60));
-  p.drawEllipse(QRectF(111, 116, 18, 6));
+  p.drawEllipse(QRectF(111, 88, 18, 6));
   p.setBrush(QColor(0x3B, 0x7E, 0xA1));
-  p.drawRoundedRect(QRectF(112, 100, 16, 18), 4, 4);
+  p.drawRoundedRect(QRectF(112, 72, 16, 18), 4, 4);
   p.setBrush(QColor(0x4A, 0x34, 0x2A));
-  p.drawEllipse(QRectF(113, 88, 14, 14));
+  p.drawEllipse(QRectF(113, 60, 14, 14));
   p.setBrush(QColor(0xE8, 0x6A, 0x3A));
-  p.drawChord(QRectF(112, 86, 16, 14), 0, 180 * 16);
+  p.drawChord(QRectF(112, 58, 16, 14), 0, 180 * 16);
   return screen;
 }
 

@@ -28,5 +28,6 @@ int main(int argc, char** argv) {
   QDir().mkpath(dir.path());
   bool ok = true;
   ok &= ShootMainWindow(dir);
+  ok &= ShootBrailleInserter(dir);
   return ok ? 0 : 1;
 }
