@@ -1,7 +1,9 @@
 #include "braille/BraillePreview.h"
 
+#include <algorithm>
 #include <limits>
 
+#include "rom/Bytes.h"
 #include "rom/HexField.h"
 #include "text/Braille2Text.h"
 
@@ -9,7 +11,7 @@ namespace tessarine {
 namespace {
 
 constexpr int kUnit = 8;  // pixels in a unit of the position and braille fields
-constexpr std::uint8_t kLineBreak = 0xFE;
+constexpr std::string_view kLineBreak = "\r\n";
 
 std::optional<int> Long(std::int64_t value) {
   if (value < std::numeric_limits<std::int32_t>::min() || value > std::numeric_limits<std::int32_t>::max()) {
@@ -76,19 +78,20 @@ char32_t BrailleGlyph(std::uint8_t cell) {
 }
 
 std::string BrailleGlyphText(std::string_view text, std::size_t maxLines, std::size_t maxCells) {
+  // Only what can be seen is encoded, line by line: a cell takes at most five characters of
+  // the text, of at most four bytes each. A line break is never part of another token, so
+  // the text's lines are the encoder's lines.
+  constexpr std::size_t kMostBytesPerCell = 5 * 4;
+  const std::size_t cellBytes = std::min(maxCells, text.size()) * kMostBytesPerCell;
+  std::string_view rest = text.substr(0, FindBrailleStop(text));
   std::string glyphs;
-  if (maxLines == 0) return glyphs;
-  std::size_t lines = 1;
-  std::size_t cells = 0;
-  for (const std::uint8_t cell : EncodeBrailleText(text)) {
-    if (IsBrailleStop(cell)) break;
-    if (cell == kLineBreak) {
-      if (++lines > maxLines) break;
-      glyphs += '\n';
-      cells = 0;
-    } else if (cells++ < maxCells) {
-      AppendUtf8(glyphs, BrailleGlyph(cell));
-    }
+  for (std::size_t line = 0; line < maxLines; ++line) {
+    const std::size_t end = rest.find(kLineBreak);
+    const Bytes cells = EncodeBrailleText(rest.substr(0, std::min(end, cellBytes)));
+    for (std::size_t i = 0; i < std::min(cells.size(), maxCells); ++i) AppendUtf8(glyphs, BrailleGlyph(cells[i]));
+    if (end == std::string_view::npos || line + 1 == maxLines) break;
+    glyphs += '\n';
+    rest.remove_prefix(end + kLineBreak.size());
   }
   return glyphs;
 }

@@ -1,6 +1,7 @@
 #include "braille/BrailleRecord.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 #include "text/Braille2Text.h"
@@ -22,6 +23,11 @@ constexpr std::uint8_t kRecordEnd[] = {0xFF, 0x00};
 }  // namespace
 
 BrailleRecord ReadBrailleRecord(RomImage& rom, RomOffset offset) {
+  static const std::array<std::string, 256> kCellTexts = [] {
+    std::array<std::string, 256> texts;
+    for (std::size_t cell = 0; cell < texts.size(); ++cell) texts[cell] = BrailleCellText(static_cast<std::uint8_t>(cell));
+    return texts;
+  }();
   const std::int64_t length = rom.Length();
   BrailleRecord record;
   const Bytes header = rom.ReadBytes(offset, record.header.size());  // short past the end of the file
@@ -38,7 +44,7 @@ BrailleRecord ReadBrailleRecord(RomImage& rom, RomOffset offset) {
     }
     if (block.empty()) block.push_back(0x00);
     for (const std::uint8_t cell : block) {
-      record.text += BrailleCellText(cell);
+      record.text += kCellTexts[cell];
       ++position;
       if (EndsBrailleText(cell, position, length)) return record;
     }

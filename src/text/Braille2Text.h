@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,6 +19,10 @@ std::string BrailleCellText(std::uint8_t cell);
 
 // 0x02 and 0xFF end a braille text.
 constexpr bool IsBrailleStop(std::uint8_t cell) { return cell == 0x02 || cell == 0xFF; }
+
+// Where in the text the first stop cell of EncodeBrailleText(text) comes from ("[End]", or
+// "\h" and the digits of 0x02 or 0xFF), found without encoding the text; npos when none.
+std::size_t FindBrailleStop(std::string_view text);
 
 // A braille record: six header bytes, then its cells.
 inline constexpr std::int64_t kBrailleHeaderSize = 6;

@@ -215,7 +215,11 @@ TEST(Form6Test, ThePreviewDrawsTheCellsAsBraillePatterns) {
       {"AB[End]CD", 9, 99, "⠁⠃"},
       {"A\\h02B", 9, 99, "⠁"},
       {"\\h40\\h3F", 9, 99, "⠀⠿"},
+      {"\\\\h02A", 9, 99, "⠀"},
+      {"\\h2C\\hfFA", 9, 99, "⠲"},
       {"ABC\r\nDEF\r\nG", 2, 2, "⠁⠃\n⠙⠑"},
+      {"ABCD\r\nEF", 9, 2, "⠁⠃\n⠑⠋"},
+      {"ABCD[End]\r\nEF", 9, 2, "⠁⠃"},
       {"A", 0, 9, ""},
   };
   for (const auto& row : rows) EXPECT_EQ(BrailleGlyphText(row.text, row.lines, row.cells), row.glyphs) << row.text;
