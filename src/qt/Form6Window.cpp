@@ -137,6 +137,7 @@ void Form6Window::BuildWidgets() {
   Label1_ = Named(new QLabel(Picture1_), "Label1");
   Label1_->setTextFormat(Qt::PlainText);
   Label1_->setFont(BrailleFont());
+  Label1_->setStyleSheet("QLabel#Label1 { color: #1A1410; background: transparent; }");  // dark on any theme
   Label1_->setAttribute(Qt::WA_TransparentForMouseEvents);
   Label1_->raise();
   auto* previewFrame = Named(new QFrame(this), "PreviewFrame");
