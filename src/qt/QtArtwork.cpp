@@ -102,4 +102,72 @@ QPixmap BackgroundPicture(QSize size) {
   return background;
 }
 
+QPixmap BrailleScreenshotPicture() {
+  constexpr int kWidth = 240, kHeight = 160, kTile = 16, kWallBottom = 56;
+  QPixmap screen(kWidth, kHeight);
+  QPainter p(&screen);
+
+  // The floor: sand tiles, each a shade of its own, with a few grains.
+  for (int y = kWallBottom; y < kHeight; y += kTile) {
+    for (int x = 0; x < kWidth; x += kTile) {
+      const int shade = (x * 7 + y * 13) % 5;
+      p.fillRect(x, y, kTile, kTile, QColor(0xD8 - shade * 3, 0xBA - shade * 3, 0x7C - shade * 2));
+      p.fillRect(x + (y * 3 + x) % 11 + 2, y + (x * 5 + y) % 9 + 3, 2, 1, QColor(0xB0, 0x90, 0x58));
+      p.fillRect(x, y + kTile - 1, kTile, 1, QColor(0xC6, 0xA5, 0x6A));
+    }
+  }
+  // A path of darker flagstones from the tablet to the bottom edge.
+  for (int y = kWallBottom; y < kHeight; y += kTile) {
+    for (int x = 96; x < 144; x += kTile) {
+      p.fillRect(x + 1, y + 1, kTile - 2, kTile - 2, QColor(0xB4, 0x96, 0x68));
+    }
+  }
+  // The wall: courses of bricks, each course offset by half a brick, and its shadow.
+  p.fillRect(0, 0, kWidth, kWallBottom, QColor(0x7A, 0x5C, 0x40));
+  for (int course = 0; course * 8 < kWallBottom; ++course) {
+    const int offset = course % 2 == 0 ? 0 : 12;
+    for (int x = -offset; x < kWidth; x += 24) {
+      const int shade = ((x + course * 24) / 24 * 5 + course) % 4;
+      p.fillRect(x + 1, course * 8 + 1, 22, 6, QColor(0x9C - shade * 6, 0x78 - shade * 5, 0x52 - shade * 4));
+    }
+  }
+  p.fillRect(0, kWallBottom, kWidth, 4, QColor(0x9E, 0x80, 0x52));
+
+  p.setRenderHint(QPainter::Antialiasing);
+  // The tablet, with rows of carved dots.
+  p.setPen(QPen(QColor(0x5A, 0x44, 0x30), 1));
+  p.setBrush(QColor(0xC9, 0xB8, 0x9A));
+  p.drawRoundedRect(QRectF(92.5, 6.5, 55, 44), 3, 3);
+  p.setPen(Qt::NoPen);
+  p.setBrush(QColor(0x6E, 0x58, 0x40));
+  for (int row = 0; row < 3; ++row) {
+    for (int cell = 0; cell < 5; ++cell) {
+      for (int dot = 0; dot < 6; ++dot) {
+        if ((cell * 5 + row * 3 + dot * 7) % 3 == 0) continue;
+        p.drawEllipse(QPointF(99 + cell * 10 + dot % 2 * 3.5, 13 + row * 13 + dot / 2 * 3.5), 1.2, 1.2);
+      }
+    }
+  }
+  // Two pillars standing out from the wall.
+  for (const int x : {24, 200}) {
+    QLinearGradient stone(x, 0, x + 16, 0);
+    stone.setColorAt(0, QColor(0xB8, 0x98, 0x6C));
+    stone.setColorAt(1, QColor(0x86, 0x68, 0x46));
+    p.setBrush(stone);
+    p.drawRect(x, 20, 16, 76);
+    p.setBrush(QColor(0x00, 0x00, 0x00, 50));
+    p.drawEllipse(QRectF(x - 3, 92, 22, 8));
+  }
+  // The traveller, seen from behind, facing the tablet.
+  p.setBrush(QColor(0x00, 0x00, 0x00, 60));
+  p.drawEllipse(QRectF(111, 88, 18, 6));
+  p.setBrush(QColor(0x3B, 0x7E, 0xA1));
+  p.drawRoundedRect(QRectF(112, 72, 16, 18), 4, 4);
+  p.setBrush(QColor(0x4A, 0x34, 0x2A));
+  p.drawEllipse(QRectF(113, 60, 14, 14));
+  p.setBrush(QColor(0xE8, 0x6A, 0x3A));
+  p.drawChord(QRectF(112, 58, 16, 14), 0, 180 * 16);
+  return screen;
+}
+
 }  // namespace tessarine

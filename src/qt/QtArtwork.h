@@ -19,4 +19,8 @@ QPixmap ButtonFace(QSize size, bool pressed);
 // The main window's background (fomr1).
 QPixmap BackgroundPicture(QSize size);
 
+// The braille preview's first picture: a made-up screen of 240 by 160 pixels, a sandstone
+// chamber with a carved tablet in its wall and a traveller before it.
+QPixmap BrailleScreenshotPicture();
+
 }  // namespace tessarine

@@ -5,6 +5,7 @@
 #include "qt/Form1Window.h"
 #include "qt/Form5Window.h"
 #include "qt/Form8Window.h"
+#include "qt/Form6Window.h"
 #include "qt/Form9Window.h"
 #include "qt/WildBattleWindows.h"
 #include "qt/frmAboutWindow.h"
@@ -21,6 +22,7 @@ QtShell::~QtShell() {
   delete form4Window_.data();
   delete form5Window_.data();
   delete form8Window_.data();
+  delete form6Window_.data();
   delete form9Window_.data();
   delete aboutWindow_.data();
 }
@@ -46,6 +48,7 @@ void QtShell::RefreshAll() {
   if (form4Window_) form4Window_->Refresh();
   if (form5Window_) form5Window_->Refresh();
   if (form8Window_) form8Window_->Refresh();
+  if (form6Window_) form6Window_->Refresh();
   if (form9Window_) form9Window_->Refresh();
   if (aboutWindow_) aboutWindow_->Refresh();
 }
@@ -84,6 +87,13 @@ void QtShell::ShowWindow(WindowName window) {
         form8Window_ = new Form8Window(*this, session_.form8);
       }
       shown = form8Window_;
+      break;
+    case WindowName::Form6:
+      if (!form6Window_) {
+        session_.form6 = Form6{};  // the window starts afresh each time it loads
+        form6Window_ = new Form6Window(*this, session_.form6);
+      }
+      shown = form6Window_;
       break;
     case WindowName::Form9:
       if (!form9Window_) {
@@ -125,6 +135,9 @@ void QtShell::HideWindow(WindowName window) {
     case WindowName::Form8:
       if (form8Window_) form8Window_->close();
       break;
+    case WindowName::Form6:
+      if (form6Window_) form6Window_->close();
+      break;
     case WindowName::Form9:
       if (form9Window_) form9Window_->close();  // closing drops it; it loads afresh next time
       break;
@@ -143,6 +156,7 @@ QWidget* QtShell::Window(WindowName window) const {
     case WindowName::Form4: return form4Window_;
     case WindowName::Form5: return form5Window_;
     case WindowName::Form8: return form8Window_;
+    case WindowName::Form6: return form6Window_;
     case WindowName::Form9: return form9Window_;
     case WindowName::frmAbout: return aboutWindow_;
     default: return nullptr;
@@ -152,6 +166,7 @@ QWidget* QtShell::Window(WindowName window) const {
 void QtShell::End() {
   session_.rom.Close();
   if (form8Window_) form8Window_->close();
+  if (form6Window_) form6Window_->close();  // closing the main window ends every tool
   if (form9Window_) form9Window_->deleteLater();
   if (aboutWindow_) aboutWindow_->close();
   QCoreApplication::quit();

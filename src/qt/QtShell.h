@@ -17,6 +17,7 @@ class Form3Window;
 class Form4Window;
 class Form5Window;
 class Form8Window;
+class Form6Window;
 class Form9Window;
 class frmAboutWindow;
 
@@ -80,6 +81,7 @@ class QtShell : public QObject {
   QPointer<Form4Window> form4Window_;
   QPointer<Form5Window> form5Window_;
   QPointer<Form8Window> form8Window_;
+  QPointer<Form6Window> form6Window_;
   QPointer<Form9Window> form9Window_;
   QPointer<frmAboutWindow> aboutWindow_;
   bool running_ = false;

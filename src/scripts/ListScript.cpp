@@ -272,7 +272,7 @@ std::optional<std::string> ListBraille(RomImage& rom, std::int64_t start, std::i
     }
     return texts;
   }();
-  constexpr auto kHeaderSize = static_cast<std::int64_t>(kBrailleHeaderLabels.size());
+  static_assert(std::ssize(kBrailleHeaderLabels) == kBrailleHeaderSize);
 
   const auto scan = [&](auto& sink, PassProgress& pass) -> std::optional<std::int64_t> {
     ByteWindow bytes(rom, length);
@@ -286,16 +286,16 @@ std::optional<std::string> ListBraille(RomImage& rom, std::int64_t start, std::i
     sink.Put(kBrailleRule);
     sink.Put(kLineEnd);
 
-    std::int64_t position = start + kHeaderSize;
+    std::int64_t position = start + kBrailleHeaderSize;
     for (;;) {
       if (!pass.At(position)) return std::nullopt;
       const std::uint8_t cell = *bytes.At(position, 1);
       sink.Put(kCellTexts[cell]);
       ++position;
-      if (IsBrailleStop(cell) || position - kHeaderSize > length) return position;
+      if (EndsBrailleText(cell, position, length)) return position;
     }
   };
-  return BuildListing(scan, start, std::max(start, length + kHeaderSize + 1), progress);
+  return BuildListing(scan, start, std::max(start, length + kBrailleHeaderSize + 1), progress);
 }
 
 }  // namespace

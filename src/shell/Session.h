@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "braille/Form6.h"
 #include "editors/Form9.h"
 #include "flyland/Form8.h"
 #include "forms/Form1.h"
@@ -24,6 +25,7 @@ struct Session {
 
   RomImage rom;
   Form1 form1;
+  Form6 form6;
   Form7 form7;
   Form8 form8;
   Form9 form9;

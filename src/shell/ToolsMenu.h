@@ -26,7 +26,7 @@ struct Form7 {
       {MenuEntry::nfdn, "~Tools~", false},
       {MenuEntry::mnuwbs, "Insert Wild Battle Script", true},
       {MenuEntry::mnugps, "Insert Give Pokemon Script", true},
-      {MenuEntry::mnuib, "Insert Braille", false},
+      {MenuEntry::mnuib, "Insert Braille", true},
       {MenuEntry::mnustart, "Starter Editor", false},
       {MenuEntry::mnuflin, "Wingfall", true},
       {MenuEntry::mnuedipmon, "Edit Pokemon Name", false},

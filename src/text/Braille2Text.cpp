@@ -32,4 +32,17 @@ Bytes EncodeBrailleText(std::string_view text) {
   return tokenizer::Tokenize(text, {kStages, {}, kAlphabet});
 }
 
+std::size_t FindBrailleStop(std::string_view text) {
+  // "[End]" and the escape are the only tokens that hold a "[" or a backslash, each as its
+  // first character, and neither holds the other's first character: so wherever one of them
+  // stands in the text, the encoder takes it whole.
+  const std::size_t end = text.find("[End]");
+  for (std::size_t at = text.find("\\h"); at < end && at + 4 <= text.size(); at = text.find("\\h", at + 1)) {
+    const int high = tokenizer::HexDigitValue(static_cast<unsigned char>(text[at + 2]));
+    const int low = tokenizer::HexDigitValue(static_cast<unsigned char>(text[at + 3]));
+    if (high >= 0 && low >= 0 && IsBrailleStop(static_cast<std::uint8_t>(high * 16 + low))) return at;
+  }
+  return end;
+}
+
 }  // namespace tessarine

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,5 +19,20 @@ std::string BrailleCellText(std::uint8_t cell);
 
 // 0x02 and 0xFF end a braille text.
 constexpr bool IsBrailleStop(std::uint8_t cell) { return cell == 0x02 || cell == 0xFF; }
+
+// Where in the text the first stop cell of EncodeBrailleText(text) comes from ("[End]", or
+// "\h" and the digits of 0x02 or 0xFF), found without encoding the text; npos when none.
+std::size_t FindBrailleStop(std::string_view text);
+
+// A braille record: six header bytes, then its cells.
+inline constexpr std::int64_t kBrailleHeaderSize = 6;
+
+// Whether the reading of a record's cells ends behind the cell just read, `nextPosition` being
+// the file position behind that cell. It ends behind a stop cell, and once the cells read
+// outnumber the bytes of the file from the record's start on: so a record at the end of the
+// file, or behind it, still reads one cell, and cells past the end read as 0.
+constexpr bool EndsBrailleText(std::uint8_t cell, std::int64_t nextPosition, std::int64_t fileLength) {
+  return IsBrailleStop(cell) || nextPosition - kBrailleHeaderSize > fileLength;
+}
 
 }  // namespace tessarine

@@ -17,5 +17,6 @@ bool Save(QWidget* window, const QDir& dir, const QString& name);
 bool ShootMainWindow(const QDir& dir);
 bool ShootScriptBuilders(const QDir& dir);
 bool ShootWingfall(const QDir& dir);
+bool ShootBrailleInserter(const QDir& dir);
 
 }  // namespace tessarine::screenshots

@@ -30,5 +30,6 @@ int main(int argc, char** argv) {
   ok &= ShootMainWindow(dir);
   ok &= ShootScriptBuilders(dir);
   ok &= ShootWingfall(dir);
+  ok &= ShootBrailleInserter(dir);
   return ok ? 0 : 1;
 }

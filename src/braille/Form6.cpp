@@ -1,0 +1,165 @@
+#include "braille/Form6.h"
+
+#include <array>
+#include <utility>
+
+#include "braille/BrailleRecord.h"
+#include "forms/Dialogs.h"
+#include "rom/Failure.h"
+#include "rom/HexField.h"
+#include "rom/RomImage.h"
+
+namespace tessarine {
+namespace {
+
+constexpr std::string_view kLineBreak = "\r\n";
+
+struct HeaderField {
+  TextBox Form6::*box;
+  Label Form6::*label;
+};
+
+// The header fields in the order of their bytes in the record.
+constexpr std::array<HeaderField, 6> kHeaderFields{{
+    {&Form6::postionleft, &Form6::Label2},
+    {&Form6::postiontop, &Form6::Label3},
+    {&Form6::msgboxleft, &Form6::Label4},
+    {&Form6::msgboxtop, &Form6::Label5},
+    {&Form6::brailleleft, &Form6::Label6},
+    {&Form6::brailletop, &Form6::Label7},
+}};
+
+// A field's name in a sentence: its label without the colon, "Postion.Left".
+std::string FieldName(const Label& label) {
+  std::string name = label.caption;
+  while (!name.empty() && (name.back() == ' ' || name.back() == ':')) name.pop_back();
+  return name;
+}
+
+void RequireInside(const RomImage& rom, RomOffset offset, std::size_t size, const std::string& field,
+                   const char* what) {
+  if (rom.Holds(offset, size)) return;
+  throw Failure(field + ": " + what + " of " + std::to_string(size) + " bytes at " + ToHexText(offset) +
+                " would not lie inside the ROM, which is " + ToHexText(static_cast<std::int32_t>(rom.Length())) +
+                " bytes long.");
+}
+
+struct Insertion {
+  BrailleHeader header{};
+  RomOffset brailleOffset = 0;
+  RomOffset scriptOffset = 0;
+};
+
+// Everything Insert needs, parsed and checked, before it writes.
+Insertion PlanInsertion(const Form6& form, const RomImage& rom) {
+  Insertion plan;
+  for (std::size_t i = 0; i < kHeaderFields.size(); ++i) {
+    plan.header[i] = ParseByte((form.*kHeaderFields[i].box).text, FieldName(form.*kHeaderFields[i].label));
+  }
+  const std::string brailleField = FieldName(form.Label8);
+  const std::string scriptField = FieldName(form.Label11);
+  plan.brailleOffset = ParseOffset(form.Text2.text, brailleField);
+  plan.scriptOffset = ParseOffset(form.Text3.text, scriptField);
+  Bytes script;
+  try {
+    script = BrailleScriptBytes(plan.brailleOffset);
+  } catch (const Failure& failure) {
+    throw Failure(brailleField + ": " + failure.what());
+  }
+  RequireInside(rom, plan.brailleOffset, BrailleRecordBytes(plan.header, form.Text1.text).size(), brailleField,
+                "the braille record");
+  RequireInside(rom, plan.scriptOffset, script.size(), scriptField, "the script");
+  return plan;
+}
+
+std::string DoubledLineBreaks(std::string_view text) {
+  std::string doubled;
+  doubled.reserve(text.size());
+  for (std::size_t at = 0; at < text.size();) {
+    if (text.substr(at, kLineBreak.size()) == kLineBreak) {
+      doubled.append(kLineBreak).append(kLineBreak);
+      at += kLineBreak.size();
+    } else {
+      doubled += text[at++];
+    }
+  }
+  return doubled;
+}
+
+}  // namespace
+
+void PressInsert(Form6& form, RomImage& rom, Dialogs& dialogs) {
+  if (dialogs.Message("Are you sure that you wan't to insert?", MessageButtons::YesNo, "Braille Inserted.") !=
+      MessageAnswer::Yes) {
+    return;
+  }
+  Insertion plan;
+  try {
+    plan = PlanInsertion(form, rom);
+    WriteBrailleRecord(rom, plan.brailleOffset, plan.header, form.Text1.text);
+  } catch (const Failure& failure) {
+    throw failure.Then("Nothing was inserted.");
+  }
+  try {
+    WriteBrailleScript(rom, plan.scriptOffset, plan.brailleOffset);
+  } catch (const Failure& failure) {
+    throw failure.Then("The braille record was written at " + ToHexText(plan.brailleOffset) +
+                       "; its script was not.");
+  }
+}
+
+void PressLoad(Form6& form, RomImage& rom) {
+  PressRestore(form);
+  BrailleRecord record;
+  try {
+    record = ReadBrailleRecord(rom, ParseOffset(form.Text2.text, FieldName(form.Label8)));
+  } catch (const Failure& failure) {
+    throw failure.Then("Nothing was loaded.");
+  }
+  form.postionleft.text = ToHexText(record.header[0]);
+  form.postiontop.text = ToHexText(record.header[1]);
+  form.msgboxleft.text = ToHexText(record.header[2]);
+  form.msgboxtop.text = ToHexText(record.header[3]);
+  SetBrailleLeft(form, ToHexText(record.header[4]));
+  SetBrailleTop(form, ToHexText(record.header[5]));
+  SetText1(form, std::move(record.text));
+  PressApply(form);
+}
+
+void PressApply(Form6& form) {
+  PressRestore(form);
+  const PreviewPlacement placed = PreviewLayout(form.postionleft.text, form.postiontop.text, form.msgboxleft.text,
+                                                form.msgboxtop.text, form.brailleleft.text, form.brailletop.text);
+  form.Shape1.Width = placed.frameWidth.value_or(form.Shape1.Width);
+  form.Shape1.Left = placed.frameLeft.value_or(form.Shape1.Left);
+  form.Shape1.Height = placed.frameHeight.value_or(form.Shape1.Height);
+  form.Shape1.Top = placed.frameTop.value_or(form.Shape1.Top);
+  form.Label1.Left = placed.textLeft.value_or(form.Label1.Left);
+  form.Label1.Top = placed.textTop.value_or(form.Label1.Top);
+}
+
+void PressRestore(Form6& form) { form.Shape1 = Shape{}; }
+
+void PressLoadScreenshot(Dialogs& dialogs, const PictureLoader& load) {
+  const std::string path = dialogs.OpenFile("Open", "Bitmap|*.bmp|Gif|*.gif|Jpeg|*.jpg");
+  if (path.empty()) return;
+  const std::string problem = load(path);
+  if (!problem.empty()) throw Failure(problem).Then("The preview keeps its picture.");
+}
+
+void SetText1(Form6& form, std::string text) {
+  form.Text1.text = std::move(text);
+  form.Label1.caption = DoubledLineBreaks(form.Text1.text);
+}
+
+void SetBrailleLeft(Form6& form, std::string text) {
+  form.brailleleft.text = std::move(text);
+  form.Label1.Left = EightPixelUnits(form.brailleleft.text).value_or(form.Label1.Left);
+}
+
+void SetBrailleTop(Form6& form, std::string text) {
+  form.brailletop.text = std::move(text);
+  form.Label1.Top = EightPixelUnits(form.brailletop.text).value_or(form.Label1.Top);
+}
+
+}  // namespace tessarine

@@ -1,0 +1,248 @@
+#include "braille/Form6.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "rom/HexField.h"
+#include "rom/RomImage.h"
+#include "support/ByteOracle.h"
+#include "support/Failures.h"
+#include "support/FixtureRom.h"
+#include "support/ScriptedDialogs.h"
+#include "text/HexBytes.h"
+
+namespace tessarine {
+namespace {
+
+using test::ByteOracle;
+using test::ByteRange;
+using test::FailureOf;
+using test::FromHex;
+using test::ToHex;
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+using Fields = std::array<const char*, 6>;  // postionleft to brailletop
+constexpr Fields kBare = {"&H", "&H", "&H", "&H", "&H", "&H"};
+constexpr std::size_t kRomSize = 0x800000;
+
+// The inserter on an open ROM of 8 MiB of 0xFF. Where the tests write, a filler stands, so
+// that every byte written shows as a change.
+struct Inserter {
+  test::FixtureRom fixture{"AXPE", kRomSize};
+  RomImage rom;
+  test::ScriptedDialogs dialogs;
+  Form6 form;
+
+  Inserter() {
+    for (const std::size_t at : {0x700000, 0x700100, 0x7A0000}) fixture.PutBytes(at, Bytes(16, 0x11));
+    rom.Open(fixture.path());
+  }
+  void Type(const Fields& fields, const char* text, const char* braille, const char* script) {
+    TextBox Form6::*const boxes[] = {&Form6::postionleft, &Form6::postiontop, &Form6::msgboxleft,
+                                     &Form6::msgboxtop,   &Form6::brailleleft, &Form6::brailletop};
+    for (std::size_t i = 0; i < fields.size(); ++i) (form.*boxes[i]).text = fields[i];
+    SetText1(form, text);
+    form.Text2.text = braille;
+    form.Text3.text = script;
+  }
+};
+
+TEST(Form6Test, InsertWritesTheRecordAndItsScriptOrNothing) {
+  constexpr Fields kZero = {"&H0", "&H0", "&H0", "&H0", "&H0", "&H0"};
+  const struct {
+    const char* name;
+    Fields fields;
+    const char* text;
+    const char* braille;
+    const char* script;
+    MessageAnswer answer;
+    std::vector<std::pair<std::size_t, const char*>> writes;
+    const char* failure;
+  } rows[] = {
+      {"all zero, A", kZero, "A", "&H700000", "&H700100", MessageAnswer::Yes,
+       {{0x700000, "00 00 00 00 00 00 01 FF 00"}, {0x700100, "6A 5A 78 00 00 70 08 02"}}, ""},
+      {"lower case is blank", {"1", "2", "3", "4", "5", "31"}, "Hi", "&H7A0000", "&H700000", MessageAnswer::Yes,
+       {{0x700000, "6A 5A 78 00 00 7A 08 02"}, {0x7A0000, "01 02 03 04 05 1F 0D 00 FF 00"}}, ""},
+      {"line break and escape", kZero, "A\r\nB\\h02C'", "&H700000", "&H700100", MessageAnswer::Yes,
+       {{0x700000, "00 00 00 00 00 00 01 FE 05 02 03 04 FF 00"}, {0x700100, "6A 5A 78 00 00 70 08 02"}}, ""},
+      {"answered No", kZero, "A", "&H700000", "&H700100", MessageAnswer::No, {}, ""},
+      {"fresh window", kBare, "A", "&H700000", "&H700100", MessageAnswer::Yes, {},
+       "Postion.Left: \"&H\" is not a byte."},
+      {"header byte too big", {"0", "0", "0", "0", "0", "&H100"}, "A", "&H700000", "&H700100",
+       MessageAnswer::Yes, {}, "Braille.Top: \"&H100\""},
+      {"bad script offset", kZero, "A", "&H700000", "&Hxyz", MessageAnswer::Yes, {}, "Script Offset: \"&Hxyz\""},
+      {"no pointer", kZero, "A", "&H78000000", "&H700100", MessageAnswer::Yes, {},
+       "Braille Offset: The offset &H78000000 cannot be a pointer"},
+      {"script past the end", kZero, "A", "&H700000", "&H7FFFFC", MessageAnswer::Yes, {},
+       "Script Offset: the script of 8 bytes at &H7FFFFC would not lie inside the ROM"},
+      {"record past the end", kZero, "A", "&H7FFFF8", "&H700100", MessageAnswer::Yes, {},
+       "Braille Offset: the braille record of 9 bytes at &H7FFFF8"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    Inserter inserter;
+    inserter.Type(row.fields, row.text, row.braille, row.script);
+    inserter.dialogs.messageAnswers = {row.answer};
+    const ByteOracle oracle(inserter.fixture.path());
+    const std::string failure = FailureOf([&] { PressInsert(inserter.form, inserter.rom, inserter.dialogs); });
+
+    ASSERT_EQ(inserter.dialogs.messages.size(), 1u);  // the question, and nothing after it
+    EXPECT_EQ(inserter.dialogs.messages[0].text, "Are you sure that you wan't to insert?");
+    EXPECT_EQ(inserter.dialogs.messages[0].title, "Braille Inserted.");
+    EXPECT_EQ(inserter.dialogs.messages[0].buttons, MessageButtons::YesNo);
+    if (*row.failure == '\0') {
+      EXPECT_EQ(failure, "");
+    } else {
+      EXPECT_THAT(failure, AllOf(HasSubstr(row.failure), HasSubstr("Nothing was inserted.")));
+    }
+    std::vector<ByteRange> ranges;
+    const Bytes now = oracle.Now();
+    for (const auto& [offset, hex] : row.writes) {
+      ranges.push_back({offset, FromHex(hex).size()});
+      EXPECT_EQ(ToHex(Bytes(now.begin() + offset, now.begin() + offset + FromHex(hex).size())), hex);
+    }
+    EXPECT_EQ(oracle.Changes(), ranges);
+  }
+}
+
+TEST(Form6Test, LoadReadsTheRecordIntoTheFieldsAndApplies) {
+  const struct {
+    std::size_t offset;
+    const char* bytes;
+    Fields fields;
+    const char* text;
+    Shape frame;
+    int textLeft, textTop;
+  } rows[] = {
+      {0x600000, "05 06 07 08 09 0A 0D 09 15 15 19 FF 00", {"&H5", "&H6", "&H7", "&H8", "&H9", "&HA"}, "HELLO",
+       {40, 48, 193, 103}, 72, 80},
+      {0x600000, "00 00 00 01 02 03 01 FE 05 04 2D 02 09", {"&H0", "&H0", "&H0", "&H1", "&H2", "&H3"},
+       "A\r\nB,[&H2D]End", {0, 0, 240, 158}, 16, 24},
+      // Two bytes before the end: the rest reads as 0, up to six cells past the end. A frame
+      // 0xFF units from the left is below 0 wide: Apply leaves it as Restore did.
+      {kRomSize - 2, "FF FF", {"&HFF", "&HFF", "&H0", "&H0", "&H0", "&H0"}, "   ", {}, 0, 0},
+  };
+  for (const auto& row : rows) {
+    Inserter inserter;
+    inserter.fixture.PutBytes(row.offset, FromHex(row.bytes));
+    inserter.rom.Open(inserter.fixture.path());
+    Form6& form = inserter.form;
+    form.Shape1 = {1, 2, 3, 4};
+    form.Text2.text = ToHexText(static_cast<RomOffset>(row.offset));
+    PressLoad(form, inserter.rom);
+    EXPECT_EQ((std::vector<std::string>{form.postionleft.text, form.postiontop.text, form.msgboxleft.text,
+                                        form.msgboxtop.text, form.brailleleft.text, form.brailletop.text}),
+              std::vector<std::string>(row.fields.begin(), row.fields.end()));
+    EXPECT_EQ(form.Text1.text, row.text);
+    EXPECT_EQ(form.Shape1, row.frame) << row.bytes;
+    EXPECT_EQ(form.Label1.Left, row.textLeft);
+    EXPECT_EQ(form.Label1.Top, row.textTop);
+  }
+}
+
+TEST(Form6Test, InsertThenLoadGivesCapitalsBackAndARefusedOffsetLoadsNothing) {
+  Inserter inserter;
+  Form6& form = inserter.form;
+  inserter.Type({"31", "&H1F", "0", "5", "2", "3"}, "IT'S A\r\nTEST", "&H700000", "&H700100");
+  inserter.dialogs.messageAnswers = {MessageAnswer::Yes};
+  PressInsert(form, inserter.rom, inserter.dialogs);
+
+  Form6 loaded;
+  loaded.Text2.text = "&H700000";
+  PressLoad(loaded, inserter.rom);
+  EXPECT_EQ(loaded.Text1.text, "IT,S A\r\nTEST");
+  EXPECT_EQ(loaded.Label1.caption, "IT,S A\r\n\r\nTEST");
+  EXPECT_EQ(loaded.postionleft.text, "&H1F");
+  EXPECT_EQ(loaded.msgboxtop.text, "&H5");
+
+  for (const char* offset : {"zz", "&HFFFFFFFF"}) {
+    loaded.Text2.text = offset;
+    loaded.Shape1 = {1, 2, 3, 4};
+    EXPECT_THAT(FailureOf([&] { PressLoad(loaded, inserter.rom); }), HasSubstr("Nothing was loaded."));
+    EXPECT_EQ(loaded.Shape1, Shape{});  // Restore ran first
+    EXPECT_EQ(loaded.postionleft.text, "&H1F");
+  }
+}
+
+TEST(Form6Test, PreviewLayoutStopsAtTheFirstNegativeSide) {
+  const struct {
+    Fields fields;
+    PreviewPlacement placed;
+  } rows[] = {
+      {kBare, {240, 0, 159, 0, 0, 0}},
+      {{"1", "2", "3", "4", "5", "6"}, {229, 8, 139, 16, 40, 48}},
+      {{"&H1E", "&H13", "0", "7", "&H1F", "-1"}, {0, 240, 0, 152, 248, -8}},
+      {{"-1", "0", "0", "0", "0", "0"}, {248, -8, 159, 0, 0, 0}},
+      {{"31", "0", "0", "0", "1", "1"}, {}},
+      {{"0", "20", "0", "0", "1", "1"}, {240, 0}},
+      {{"0", "0", "241", "0", "1", "1"}, {240, 0, 159, 0}},
+      {{"0", "0", "0", "160", "1", "1"}, {240, 0, 159, 0}},
+      {{"&H10000000", "0", "0", "0", "0", "0"}, {}},  // beyond 32 bits
+      {{"0", "0", "0", "0", "0", "&H10000000"}, {240, 0, 159, 0, 0}},
+  };
+  for (const auto& row : rows) {
+    const Fields& f = row.fields;
+    EXPECT_EQ(PreviewLayout(f[0], f[1], f[2], f[3], f[4], f[5]), row.placed) << f[0] << " " << f[1] << " " << f[3];
+  }
+
+  Form6 form;  // Apply moves only what the layout reaches; Restore never moves the text
+  form.postionleft.text = "31";
+  SetBrailleLeft(form, "3");
+  form.Shape1 = {1, 2, 3, 4};
+  PressApply(form);
+  EXPECT_EQ(form.Shape1, Shape{});
+  EXPECT_EQ(form.Label1.Left, 24);
+  SetBrailleTop(form, "&H10000000");
+  EXPECT_EQ(form.Label1.Top, 8);
+  PressRestore(form);
+  EXPECT_EQ(form.Label1.Left, 24);
+}
+
+TEST(Form6Test, ThePreviewDrawsTheCellsAsBraillePatterns) {
+  const struct {
+    const char* text;
+    std::size_t lines, cells;
+    const char* glyphs;
+  } rows[] = {
+      {"ABCDEFGHIJKLMNOPQRSTUVWXYZ.", 9, 99, "⠁⠃⠉⠙⠑⠋⠛⠓⠊⠚⠅⠇⠍⠝⠕⠏⠟⠗⠎⠞⠥⠧⠺⠭⠽⠵⠲"},
+      {"A b'", 9, 99, "⠁⠀⠀⠂"},
+      {"A\r\n\r\nB", 9, 99, "⠁\n\n⠃"},
+      {"AB[End]CD", 9, 99, "⠁⠃"},
+      {"A\\h02B", 9, 99, "⠁"},
+      {"\\h40\\h3F", 9, 99, "⠀⠿"},
+      {"\\\\h02A", 9, 99, "⠀"},
+      {"\\h2C\\hfFA", 9, 99, "⠲"},
+      {"ABC\r\nDEF\r\nG", 2, 2, "⠁⠃\n⠙⠑"},
+      {"ABCD\r\nEF", 9, 2, "⠁⠃\n⠑⠋"},
+      {"ABCD[End]\r\nEF", 9, 2, "⠁⠃"},
+      {"A", 0, 9, ""},
+  };
+  for (const auto& row : rows) EXPECT_EQ(BrailleGlyphText(row.text, row.lines, row.cells), row.glyphs) << row.text;
+}
+
+TEST(Form6Test, LoadScreenshotAsksForAPictureAndKeepsTheOldOneOnAProblem) {
+  test::ScriptedDialogs dialogs;
+  std::vector<std::string> loaded;
+  const PictureLoader loader = [&](const std::string& path) {
+    loaded.push_back(path);
+    return path == "notes.txt" ? std::string("\"notes.txt\" is no picture.") : std::string();
+  };
+  dialogs.openFileAnswers = {"", "scene.bmp", "notes.txt"};
+  PressLoadScreenshot(dialogs, loader);
+  PressLoadScreenshot(dialogs, loader);
+  EXPECT_EQ(FailureOf([&] { PressLoadScreenshot(dialogs, loader); }),
+            "\"notes.txt\" is no picture. The preview keeps its picture.");
+  EXPECT_THAT(loaded, ElementsAre("scene.bmp", "notes.txt"));
+  ASSERT_EQ(dialogs.fileDialogs.size(), 3u);
+  EXPECT_EQ(dialogs.fileDialogs[0].title, "Open");
+  EXPECT_EQ(dialogs.fileDialogs[0].filter, "Bitmap|*.bmp|Gif|*.gif|Jpeg|*.jpg");
+  EXPECT_THAT(dialogs.messages, IsEmpty());
+}
+
+}  // namespace
+}  // namespace tessarine
