@@ -4,27 +4,34 @@
 
 #include "qt/Form1Window.h"
 #include "qt/Form5Window.h"
-#include "qt/Form8Window.h"
 #include "qt/Form6Window.h"
+#include "qt/Form8Window.h"
 #include "qt/Form9Window.h"
 #include "qt/WildBattleWindows.h"
 #include "qt/frmAboutWindow.h"
 #include "rom/Failure.h"
-#include "shell/ScriptForms.h"
 
 namespace tessarine {
 
-QtShell::QtShell(Dialogs& questions)
-    : dialogs_(*this, questions), main_(std::make_unique<Form1Window>(*this)) {}
+template <typename Window, typename Record>
+void QtShell::Place(WindowName name, Record& record) {
+  View& view = ViewOf(name);
+  view.make = [this, &record] { return static_cast<QWidget*>(new Window(*this, record)); };
+  view.refresh = [](QWidget* widget) { static_cast<Window*>(widget)->Refresh(); };
+}
+
+QtShell::QtShell(Dialogs& questions) : dialogs_(*this, questions), main_(std::make_unique<Form1Window>(*this)) {
+  Place<Form3Window>(WindowName::Form3, session_.form3);
+  Place<Form4Window>(WindowName::Form4, session_.form4);
+  Place<Form5Window>(WindowName::Form5, session_.form5);
+  Place<Form6Window>(WindowName::Form6, session_.form6);
+  Place<Form8Window>(WindowName::Form8, session_.form8);
+  Place<Form9Window>(WindowName::Form9, session_.form9);
+  Place<frmAboutWindow>(WindowName::frmAbout, session_.about);
+}
 
 QtShell::~QtShell() {
-  delete form3Window_.data();
-  delete form4Window_.data();
-  delete form5Window_.data();
-  delete form8Window_.data();
-  delete form6Window_.data();
-  delete form9Window_.data();
-  delete aboutWindow_.data();
+  for (View& view : views_) delete view.widget.data();
 }
 
 void QtShell::Run(const std::function<void()>& action) {
@@ -44,74 +51,21 @@ void QtShell::Run(const std::function<void()>& action) {
 
 void QtShell::RefreshAll() {
   main_->Refresh();
-  if (form3Window_) form3Window_->Refresh();
-  if (form4Window_) form4Window_->Refresh();
-  if (form5Window_) form5Window_->Refresh();
-  if (form8Window_) form8Window_->Refresh();
-  if (form6Window_) form6Window_->Refresh();
-  if (form9Window_) form9Window_->Refresh();
-  if (aboutWindow_) aboutWindow_->Refresh();
+  for (View& view : views_) {
+    if (view.widget) view.refresh(view.widget);
+  }
 }
 
 void QtShell::ShowWindow(WindowName window) {
-  QWidget* shown = nullptr;
-  switch (window) {
-    case WindowName::Form1:
-      shown = main_.get();
-      break;
-    case WindowName::Form3:
-      if (!form3Window_) {
-        LoadForm3(session_);
-        form3Window_ = new Form3Window(*this, session_.form3);
-      }
-      shown = form3Window_;
-      break;
-    case WindowName::Form4:
-      if (!form4Window_) {
-        LoadForm4(session_);
-        form4Window_ = new Form4Window(*this, session_.form4);
-      }
-      shown = form4Window_;
-      break;
-    case WindowName::Form5:
-      if (!form5Window_) {
-        LoadForm5(session_);
-        form5Window_ = new Form5Window(*this, session_.form5);
-      }
-      shown = form5Window_;
-      break;
-    case WindowName::Form8:
-      if (!form8Window_) {  // a new window opens afresh, on the game code that stands now
-        session_.form8 = Form8{};
-        LoadForm8(session_.form8, session_.form1.headtxt, dialogs_);
-        form8Window_ = new Form8Window(*this, session_.form8);
-      }
-      shown = form8Window_;
-      break;
-    case WindowName::Form6:
-      if (!form6Window_) {
-        session_.form6 = Form6{};  // the window starts afresh each time it loads
-        form6Window_ = new Form6Window(*this, session_.form6);
-      }
-      shown = form6Window_;
-      break;
-    case WindowName::Form9:
-      if (!form9Window_) {
-        session_.form9 = Form9{};  // the dialog starts afresh each time it loads
-        form9Window_ = new Form9Window(*this, session_.form9);
-      }
-      shown = form9Window_;
-      break;
-    case WindowName::frmAbout:
-      if (!aboutWindow_) {
-        session_.about = frmAbout{};
-        LoadAbout(session_.about);
-        aboutWindow_ = new frmAboutWindow(*this, session_.about);
-      }
-      shown = aboutWindow_;
-      break;
-    default:  // the tool windows come with their tools
-      return;
+  QWidget* shown = main_.get();
+  if (window != WindowName::Form1) {
+    View& view = ViewOf(window);
+    if (!view.make) return;  // a window that this program does not have
+    if (!view.widget) {
+      LoadWindow(session_, dialogs_, window);
+      view.widget = view.make();
+    }
+    shown = view.widget;
   }
   shown->show();
   shown->raise();
@@ -119,56 +73,23 @@ void QtShell::ShowWindow(WindowName window) {
 }
 
 void QtShell::HideWindow(WindowName window) {
-  switch (window) {
-    case WindowName::Form1:
-      main_->hide();
-      break;
-    case WindowName::Form3:
-      if (form3Window_) form3Window_->close();  // closing drops it; it loads afresh next time
-      break;
-    case WindowName::Form4:
-      if (form4Window_) form4Window_->close();
-      break;
-    case WindowName::Form5:
-      if (form5Window_) form5Window_->close();
-      break;
-    case WindowName::Form8:
-      if (form8Window_) form8Window_->close();
-      break;
-    case WindowName::Form6:
-      if (form6Window_) form6Window_->close();
-      break;
-    case WindowName::Form9:
-      if (form9Window_) form9Window_->close();  // closing drops it; it loads afresh next time
-      break;
-    case WindowName::frmAbout:
-      if (aboutWindow_) aboutWindow_->close();
-      break;
-    default:
-      break;
+  if (window == WindowName::Form1) {
+    main_->hide();
+  } else if (QWidget* widget = ViewOf(window).widget) {
+    widget->close();  // closing drops it; it loads afresh next time
   }
 }
 
 QWidget* QtShell::Window(WindowName window) const {
-  switch (window) {
-    case WindowName::Form1: return main_.get();
-    case WindowName::Form3: return form3Window_;
-    case WindowName::Form4: return form4Window_;
-    case WindowName::Form5: return form5Window_;
-    case WindowName::Form8: return form8Window_;
-    case WindowName::Form6: return form6Window_;
-    case WindowName::Form9: return form9Window_;
-    case WindowName::frmAbout: return aboutWindow_;
-    default: return nullptr;
-  }
+  if (window == WindowName::Form1) return main_.get();
+  return views_[static_cast<std::size_t>(window)].widget;
 }
 
 void QtShell::End() {
   session_.rom.Close();
-  if (form8Window_) form8Window_->close();
-  if (form6Window_) form6Window_->close();  // closing the main window ends every tool
-  if (form9Window_) form9Window_->deleteLater();
-  if (aboutWindow_) aboutWindow_->close();
+  for (View& view : views_) {  // closing the main window ends every tool
+    if (view.widget) view.widget->close();
+  }
   QCoreApplication::quit();
 }
 

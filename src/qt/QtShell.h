@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <array>
 #include <functional>
 #include <memory>
 
@@ -13,17 +14,13 @@ class QWidget;
 namespace tessarine {
 
 class Form1Window;
-class Form3Window;
-class Form4Window;
-class Form5Window;
-class Form8Window;
-class Form6Window;
-class Form9Window;
-class frmAboutWindow;
 
 // The running program: its Session (the one RomImage and the records) and every window.
 // Each action of a person starts in Run, the one place where a Failure is caught and its
 // sentence shown; after the action every open window shows its record afresh.
+//
+// The main window lives as long as the shell. Every other window is one instance, made when
+// it is first shown (its record loads afresh then, LoadWindow) and dropped when it closes.
 class QtShell : public QObject {
   Q_OBJECT
 
@@ -74,16 +71,21 @@ class QtShell : public QObject {
     Dialogs& questions_;
   };
 
+  // A window other than the main one: the view while it stands, how to make it on its
+  // record, and how to show the record in it afresh.
+  struct View {
+    QPointer<QWidget> widget;
+    std::function<QWidget*()> make;
+    void (*refresh)(QWidget*) = nullptr;
+  };
+  template <typename Window, typename Record>
+  void Place(WindowName name, Record& record);
+  View& ViewOf(WindowName name) { return views_[static_cast<std::size_t>(name)]; }
+
   WindowDialogs dialogs_;
   Session session_;
   std::unique_ptr<Form1Window> main_;
-  QPointer<Form3Window> form3Window_;
-  QPointer<Form4Window> form4Window_;
-  QPointer<Form5Window> form5Window_;
-  QPointer<Form8Window> form8Window_;
-  QPointer<Form6Window> form6Window_;
-  QPointer<Form9Window> form9Window_;
-  QPointer<frmAboutWindow> aboutWindow_;
+  std::array<View, static_cast<std::size_t>(WindowName::frmAbout) + 1> views_;
   bool running_ = false;
 };
 

@@ -5,6 +5,7 @@
 #include "braille/Form6.h"
 #include "editors/Form9.h"
 #include "flyland/Form8.h"
+#include "forms/Dialogs.h"
 #include "forms/Form1.h"
 #include "rom/RomImage.h"
 #include "scripts/Form5.h"
@@ -25,17 +26,21 @@ struct Session {
 
   RomImage rom;
   Form1 form1;
+  Form3 form3;
+  Form4 form4;
+  Form5 form5;
   Form6 form6;
   Form7 form7;
   Form8 form8;
   Form9 form9;
   frmAbout about;
-  Form3 form3;
-  Form4 form4;
-  Form5 form5;
   // While Form5 is loaded, shown or not: the Open ROM (Form1::romOpenings) after which its
   // lists were read. See RequireForm5Loaded (shell/ScriptForms.h).
   std::optional<int> form5LoadedAt;
 };
+
+// A window other than the main one is loaded afresh each time it is made: its record takes
+// its start values and its load runs (lists copied, the ROM read, the game code asked).
+void LoadWindow(Session& session, Dialogs& dialogs, WindowName window);
 
 }  // namespace tessarine
