@@ -2,9 +2,11 @@
 
 #include <cerrno>
 #include <cstring>
+#include <exception>
 #include <filesystem>
 
 #include "rom/Failure.h"
+#include "rom/FilePath.h"
 #include "rom/HexField.h"
 
 namespace tessarine {
@@ -16,11 +18,36 @@ std::string HexPosition(std::int64_t position) {
 
 std::string SystemReason(int error) { return error != 0 ? std::strerror(error) : "unknown error"; }
 
-std::FILE* OpenUnbuffered(const std::string& path, const char* mode) {
-  std::FILE* file = std::fopen(path.c_str(), mode);
+std::FILE* OpenUnbuffered(const std::filesystem::path& file, bool writable) {
+#ifdef _WIN32
+  // The wide call: the narrow one would read the name in the ANSI code page.
+  std::FILE* handle = ::_wfopen(file.c_str(), writable ? L"r+b" : L"rb");
+#else
+  std::FILE* handle = std::fopen(file.c_str(), writable ? "r+b" : "rb");
+#endif
   // Unbuffered: every read and write goes straight to the operating system.
-  if (file != nullptr) std::setvbuf(file, nullptr, _IONBF, 0);
-  return file;
+  if (handle != nullptr) std::setvbuf(handle, nullptr, _IONBF, 0);
+  return handle;
+}
+
+// Positions are 64-bit on every system; a long, which fseek and ftell take, has only 32
+// bits on Windows.
+bool SeekTo(std::FILE* file, std::int64_t position) {
+#ifdef _WIN32
+  return ::_fseeki64(file, position, SEEK_SET) == 0;
+#else
+  return std::fseek(file, static_cast<long>(position), SEEK_SET) == 0;
+#endif
+}
+
+std::int64_t SizeOf(std::FILE* file) {
+  if (std::fseek(file, 0, SEEK_END) != 0) return 0;
+#ifdef _WIN32
+  const std::int64_t length = ::_ftelli64(file);
+#else
+  const std::int64_t length = std::ftell(file);
+#endif
+  return length < 0 ? 0 : length;
 }
 
 }  // namespace
@@ -29,11 +56,17 @@ RomImage::~RomImage() { Close(); }
 
 void RomImage::Open(const std::string& path) {
   Close();
+  std::filesystem::path file;
+  try {
+    file = ToFilePath(path);
+  } catch (const std::exception&) {
+    throw Failure("Could not open \"" + path + "\": the name is not UTF-8 text.");
+  }
   readOnly_ = false;
-  file_ = OpenUnbuffered(path, "r+b");
+  file_ = OpenUnbuffered(file, true);
   if (file_ == nullptr) {
     const int writeError = errno;
-    file_ = OpenUnbuffered(path, "rb");
+    file_ = OpenUnbuffered(file, false);
     readOnly_ = file_ != nullptr;
     if (file_ == nullptr) {
       throw Failure("Could not open \"" + path + "\": " + SystemReason(writeError) + ".");
@@ -42,7 +75,7 @@ void RomImage::Open(const std::string& path) {
   romPath_ = path;
   position_ = 0;
   std::error_code ignored;
-  regularFile_ = std::filesystem::is_regular_file(path, ignored);
+  regularFile_ = std::filesystem::is_regular_file(file, ignored);
 }
 
 void RomImage::Close() noexcept {
@@ -71,9 +104,7 @@ void RomImage::Seek(RomOffset offset) {
 
 std::int64_t RomImage::Length() const {
   RequireOpen("measured");
-  if (std::fseek(file_, 0, SEEK_END) != 0) return 0;
-  const long length = std::ftell(file_);
-  return length < 0 ? 0 : length;
+  return SizeOf(file_);
 }
 
 bool RomImage::Holds(std::int64_t position, std::size_t count) const {
@@ -86,7 +117,7 @@ Bytes RomImage::ReadBytes(std::size_t count) {
   RequireOpen("read");
   Bytes bytes(count);
   std::size_t got = 0;
-  if (count > 0 && std::fseek(file_, static_cast<long>(position_), SEEK_SET) == 0) {
+  if (count > 0 && SeekTo(file_, position_)) {
     got = std::fread(bytes.data(), 1, count, file_);
   }
   std::clearerr(file_);  // the end of the file is no lasting state
@@ -118,7 +149,7 @@ void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
                   " bytes long.");
   }
   errno = 0;
-  const bool placed = std::fseek(file_, static_cast<long>(position_), SEEK_SET) == 0;
+  const bool placed = SeekTo(file_, position_);
   const std::size_t put = placed ? std::fwrite(bytes.data(), 1, bytes.size(), file_) : 0;
   const bool flushed = std::fflush(file_) == 0;
   const int error = errno;

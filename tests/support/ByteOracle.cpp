@@ -3,6 +3,8 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "rom/FilePath.h"
+
 namespace tessarine::test {
 
 std::ostream& operator<<(std::ostream& out, const ByteRange& range) {
@@ -10,7 +12,7 @@ std::ostream& operator<<(std::ostream& out, const ByteRange& range) {
 }
 
 Bytes ReadWholeFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary | std::ios::ate);
+  std::ifstream in(ToFilePath(path), std::ios::binary | std::ios::ate);
   if (!in) throw std::runtime_error("cannot read " + path);
   Bytes bytes(static_cast<std::size_t>(in.tellg()));
   in.seekg(0);

@@ -2,9 +2,10 @@
 
 #include <atomic>
 #include <fstream>
+#include <random>
 #include <stdexcept>
 
-#include <unistd.h>
+#include "rom/FilePath.h"
 
 namespace tessarine::test {
 
@@ -28,8 +29,9 @@ Bytes GameTextOf(std::string_view ascii) {
 
 std::filesystem::path TemporaryPath(std::string_view stem) {
   static std::atomic<int> counter{0};
+  static const std::string run = std::to_string(std::random_device{}());  // apart from other test processes
   return std::filesystem::temp_directory_path() /
-         ("tessarine-" + std::to_string(::getpid()) + "-" + std::to_string(counter++) + "-" + std::string(stem));
+         ("tessarine-" + run + "-" + std::to_string(counter++) + "-" + std::string(stem));
 }
 
 FixtureRom::FixtureRom(std::string_view gameCode, std::size_t size)
@@ -81,10 +83,10 @@ std::string FixtureRom::path() {
   if (dirty_) {
     std::ofstream out(path_, std::ios::binary | std::ios::trunc);
     out.write(reinterpret_cast<const char*>(image_.data()), static_cast<std::streamsize>(image_.size()));
-    if (!out) throw std::runtime_error("could not write the fixture ROM " + path_.string());
+    if (!out) throw std::runtime_error("could not write the fixture ROM " + ToPathText(path_));
     dirty_ = false;
   }
-  return path_.string();
+  return ToPathText(path_);
 }
 
 }  // namespace tessarine::test

@@ -1,27 +1,28 @@
 #include "support/ReadOnlyFile.h"
 
-#include <cstdio>
 #include <filesystem>
+#include <fstream>
 
+#include "rom/FilePath.h"
+
+#if defined(__linux__)
 #include <fcntl.h>
+#include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
-
-#ifdef __linux__
-#include <linux/fs.h>
+#elif defined(_WIN32)
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
 #endif
 
 namespace tessarine::test {
 namespace {
 
 bool OpensForWriting(const std::string& path) {
-  std::FILE* file = std::fopen(path.c_str(), "r+b");
-  if (file == nullptr) return false;
-  std::fclose(file);
-  return true;
+  return std::fstream(ToFilePath(path), std::ios::in | std::ios::out | std::ios::binary).is_open();
 }
 
-#ifdef __linux__
+#if defined(__linux__)
 bool SetImmutable(const std::string& path, bool on) {
   const int fd = ::open(path.c_str(), O_RDONLY);
   if (fd < 0) return false;
@@ -34,23 +35,38 @@ bool SetImmutable(const std::string& path, bool on) {
   ::close(fd);
   return done;
 }
+
+// The immutable flag of the file system, which binds root too.
+std::function<void()> Hold(const std::string& path) {
+  if (!SetImmutable(path, true)) return {};
+  return [path] { SetImmutable(path, false); };
+}
+#elif defined(_WIN32)
+// A handle that shares the file for reading only: while it is open, every other open
+// for writing fails, whoever asks (wine run by root ignores the read-only attribute).
+std::function<void()> Hold(const std::string& path) {
+  const HANDLE handle = ::CreateFileW(ToFilePath(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) return {};
+  return [handle] { ::CloseHandle(handle); };
+}
 #else
-bool SetImmutable(const std::string&, bool) { return false; }
+std::function<void()> Hold(const std::string&) { return {}; }
 #endif
 
 }  // namespace
 
 ReadOnlyFile::ReadOnlyFile(std::string path) : path_(std::move(path)) {
   namespace fs = std::filesystem;
-  fs::permissions(path_, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
-  if (OpensForWriting(path_)) immutable_ = SetImmutable(path_, true);
+  fs::permissions(ToFilePath(path_), fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  if (OpensForWriting(path_)) release_ = Hold(path_);
 }
 
 ReadOnlyFile::~ReadOnlyFile() {
-  if (immutable_) SetImmutable(path_, false);
+  if (release_) release_();
   std::error_code ignored;
-  std::filesystem::permissions(path_, std::filesystem::perms::owner_read | std::filesystem::perms::owner_write,
-                               ignored);
+  std::filesystem::permissions(ToFilePath(path_),
+                               std::filesystem::perms::owner_read | std::filesystem::perms::owner_write, ignored);
 }
 
 bool ReadOnlyFile::works() const { return !OpensForWriting(path_); }
