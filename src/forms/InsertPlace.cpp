@@ -32,11 +32,10 @@ RomOffset ParseInsertOffset(std::string_view text, std::string_view field) {
 void RequireInsideRom(RomImage& rom, RomOffset at, std::int64_t length, std::string_view what,
                       std::string_view field, std::string_view text) {
   if (!rom.IsOpen()) throw Failure("No ROM is open. Open a ROM first.");
-  const std::int64_t romLength = rom.Length();
-  if (at >= 0 && at + length <= romLength) return;
+  if (rom.Holds(at, length)) return;
   throw Failure(FieldAndText(field, text) + ": " + std::string(what) + ", " + std::to_string(length) +
                 " bytes from " + ToHexText(at) + ", would run past the end of the ROM, which is " +
-                HexLength(romLength) + " bytes long.");
+                HexLength(rom.Length()) + " bytes long.");
 }
 
 }  // namespace tessarine

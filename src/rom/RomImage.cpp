@@ -76,6 +76,11 @@ std::int64_t RomImage::Length() const {
   return length < 0 ? 0 : length;
 }
 
+bool RomImage::Holds(std::int64_t at, std::int64_t count) const {
+  if (at < 0 || count < 0) return false;
+  return !regularFile_ || at + count <= Length();
+}
+
 Bytes RomImage::ReadBytes(std::size_t count) {
   RequireOpen("read");
   Bytes bytes(count);
@@ -106,10 +111,9 @@ void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
   if (readOnly_) {
     throw Failure("The ROM is open read-only (the file cannot be written), so nothing was written" + where + ".");
   }
-  const std::int64_t length = Length();
-  if (regularFile_ && position_ + static_cast<std::int64_t>(bytes.size()) > length) {
+  if (!Holds(position_, static_cast<std::int64_t>(bytes.size()))) {
     throw Failure("Nothing was written" + where + ": " + std::to_string(bytes.size()) +
-                  " bytes there would run past the end of the ROM, which is " + HexPosition(length) +
+                  " bytes there would run past the end of the ROM, which is " + HexPosition(Length()) +
                   " bytes long.");
   }
   errno = 0;

@@ -40,6 +40,10 @@ class RomImage {
 
   void Seek(RomOffset offset);
   std::int64_t Length() const;
+  // Whether `count` bytes from `at` lie inside the file: the one test by which a write is
+  // refused for running past the end, for a tool to ask before its first write. A device
+  // holds any run from 0 on.
+  bool Holds(std::int64_t at, std::int64_t count) const;
 
   std::uint8_t ReadByte();
   std::int16_t ReadWord();

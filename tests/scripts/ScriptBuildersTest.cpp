@@ -180,6 +180,13 @@ TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNoth
   EXPECT_EQ(b.dialogs.windowEvents.size(), 1u);
 }
 
+TEST(ScriptBuildersTest, WhatTheFileTakesTheInsertDoesNotRefuse) {
+  Builder b;
+  b.rom.Open("/dev/zero");  // a device, which has no end: every write there is taken
+  InsertWildBattle(b.form3, b.rom, b.dialogs);
+  EXPECT_THAT(b.dialogs.MessageTexts(), ElementsAre("Inserted"));
+}
+
 TEST(ScriptBuildersTest, AMessageThatDoesNotFitIsRefusedAfterTheScriptAndSaysSo) {
   Builder b;
   b.form4.Text12.text = "&HFFFFFD";  // room for FF 00, not for "AB" and FF 00
