@@ -24,8 +24,8 @@ RomOffset ParseInsertOffset(std::string_view text, std::string_view field) {
   if (offset >= kCartridgeHeaderEnd) return offset;
   const std::string where =
       offset < 0 ? " lies before the start of the ROM."
-                 : " lies inside the cartridge header, which runs up to " + ToHexText(kCartridgeHeaderEnd) +
-                       ", and would write over it.";
+                 : " lies inside the cartridge header, " + ToHexText(RomOffset{0}) + " to " +
+                       ToHexText(kCartridgeHeaderEnd - 1) + ", and would write over it.";
   throw Failure(FieldAndText(field, text) + where + " Type the offset of free space (a place with lots of FFs).");
 }
 
