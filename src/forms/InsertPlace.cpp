@@ -24,19 +24,18 @@ RomOffset ParseInsertOffset(std::string_view text, std::string_view field) {
   if (offset >= kCartridgeHeaderEnd) return offset;
   const std::string where =
       offset < 0 ? " lies before the start of the ROM."
-                 : " lies inside the cartridge header, which runs up to " + ToHexText(kCartridgeHeaderEnd) +
-                       ", and would write over it.";
+                 : " lies inside the cartridge header, " + ToHexText(RomOffset{0}) + " to " +
+                       ToHexText(kCartridgeHeaderEnd - 1) + ", and would write over it.";
   throw Failure(FieldAndText(field, text) + where + " Type the offset of free space (a place with lots of FFs).");
 }
 
 void RequireInsideRom(RomImage& rom, RomOffset at, std::int64_t length, std::string_view what,
                       std::string_view field, std::string_view text) {
   if (!rom.IsOpen()) throw Failure("No ROM is open. Open a ROM first.");
-  const std::int64_t romLength = rom.Length();
-  if (at >= 0 && at + length <= romLength) return;
+  if (rom.Holds(at, length)) return;
   throw Failure(FieldAndText(field, text) + ": " + std::string(what) + ", " + std::to_string(length) +
                 " bytes from " + ToHexText(at) + ", would run past the end of the ROM, which is " +
-                HexLength(romLength) + " bytes long.");
+                HexLength(rom.Length()) + " bytes long.");
 }
 
 }  // namespace tessarine

@@ -23,7 +23,8 @@ inline constexpr RomOffset kCartridgeHeaderEnd = 0xC0;
 // offset). Throws Failure naming the field and its text.
 RomOffset ParseInsertOffset(std::string_view text, std::string_view field);
 
-// Throws Failure unless `length` bytes from `at` lie inside the open file: the sentence
+// Throws Failure unless the open file holds `length` bytes from `at`, by the test that
+// every write meets (RomImage::Holds), so that no write behind it is refused. The sentence
 // names the field and its text, and says what would have gone there (`what`, as "the
 // script"). Also when no ROM is open.
 void RequireInsideRom(RomImage& rom, RomOffset at, std::int64_t length, std::string_view what,

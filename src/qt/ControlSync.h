@@ -4,6 +4,7 @@
 // signals first, so that nothing a copy changes runs an action.
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QString>
@@ -33,6 +34,14 @@ inline void Sync(QAbstractButton* widget, const Button& button) {
 inline void Sync(QLabel* widget, const Label& label) {
   widget->setText(ToQString(label.caption));
   widget->setVisible(label.visible);
+}
+
+// A window's handling of the keys its fields and closed lists pass on: Enter presses the
+// default button. True when the key was taken.
+inline bool EnterPresses(QKeyEvent* event, QAbstractButton* defaultButton) {
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return false;
+  defaultButton->click();
+  return true;
 }
 
 // A drop-down list; remembers the rows it last gave its widget, so that a refresh fills

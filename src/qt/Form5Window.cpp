@@ -84,7 +84,6 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
       {pkmntxt_, &form_.pkmntxt}, {Text3_, &form_.Text3}, {Text12_, &form_.Text12}};
   for (const auto& [widget, box] : edits) {
     connect(widget, &QLineEdit::textEdited, this, [box = box](const QString& t) { box->text = t.toStdString(); });
-    connect(widget, &QLineEdit::returnPressed, Command1_, &QPushButton::click);
   }
   connect(Command1_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { InsertGivePokemon(form_, shell_.rom(), shell_.dialogs()); }); });
@@ -106,6 +105,10 @@ void Form5Window::Refresh() {
   Sync(Label5_, form_.Label5);
   Sync(Text12_, form_.Text12);
   Sync(Command1_, form_.Command1);
+}
+
+void Form5Window::keyPressEvent(QKeyEvent* event) {
+  if (!EnterPresses(event, Command1_)) QWidget::keyPressEvent(event);
 }
 
 void Form5Window::closeEvent(QCloseEvent* event) {

@@ -40,9 +40,9 @@ WildBattleWindow::WildBattleWindow(QtShell& shell, WildBattleForm& form, const c
   Combo1_->setCompleter(nullptr);
   Combo1_->setMinimumContentsLength(18);
   Combo1_->setMaxVisibleItems(20);
-  pkmntxt_ = EnterInserts(Named(new QLineEdit(this), "pkmntxt"));
+  pkmntxt_ = Named(new QLineEdit(this), "pkmntxt");
   Label2_ = Named(new QLabel(this), "Label2");
-  crytxt_ = EnterInserts(Named(new QLineEdit(this), "crytxt"));
+  crytxt_ = Named(new QLineEdit(this), "crytxt");
   Label3_ = Named(new QLabel(this), "Label3");
   Combo3_ = Named(new QComboBox(this), "Combo3");
   Combo3_->setMaxVisibleItems(20);
@@ -50,7 +50,7 @@ WildBattleWindow::WildBattleWindow(QtShell& shell, WildBattleForm& form, const c
   Combo2_ = Named(new QComboBox(this), "Combo2");
   Combo2_->setMaxVisibleItems(20);
   Label5_ = Named(new QLabel(this), "Label5");
-  Text3_ = EnterInserts(Named(new QLineEdit(this), "Text3"));
+  Text3_ = Named(new QLineEdit(this), "Text3");
   Command1_ = Named(new QPushButton(this), "Command1");
   Command1_->setDefault(true);
   for (QWidget* number : std::initializer_list<QWidget*>{pkmntxt_, crytxt_, Combo3_, Text3_}) {
@@ -84,9 +84,8 @@ WildBattleWindow::WildBattleWindow(QtShell& shell, WildBattleForm& form, const c
   }
 }
 
-QLineEdit* WildBattleWindow::EnterInserts(QLineEdit* field) {
-  connect(field, &QLineEdit::returnPressed, this, [this] { Command1_->click(); });
-  return field;
+void WildBattleWindow::keyPressEvent(QKeyEvent* event) {
+  if (!EnterPresses(event, Command1_)) QWidget::keyPressEvent(event);
 }
 
 void WildBattleWindow::FinishLayout() {
@@ -127,7 +126,7 @@ Form4Window::Form4Window(QtShell& shell, Form4& form)
     : WildBattleWindow(shell, form, "Form4"),
       form4_(form),
       Label6_(Named(new QLabel(this), "Label6")),
-      Text12_(EnterInserts(Named(new QLineEdit(this), "Text12"))),
+      Text12_(Named(new QLineEdit(this), "Text12")),
       Label7_(Named(new QLabel(this), "Label7")) {
   Text12_->setFixedWidth(kNumberWidth);
   Label7_->setWordWrap(true);

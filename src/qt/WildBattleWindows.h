@@ -6,6 +6,7 @@
 
 class QComboBox;
 class QGridLayout;
+class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -31,8 +32,8 @@ class WildBattleWindow : public QWidget {
   WildBattleWindow(QtShell& shell, WildBattleForm& form, const char* name);
   // Puts the Insert button below every row, once the form has added its own.
   void FinishLayout();
-  // A field whose Enter presses Insert.
-  QLineEdit* EnterInserts(QLineEdit* field);
+  // Enter in any field or list presses Insert, the window's default button.
+  void keyPressEvent(QKeyEvent* event) override;
   virtual void RefreshOwn() = 0;
 
   QtShell& shell_;

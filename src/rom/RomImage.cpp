@@ -107,10 +107,10 @@ std::int64_t RomImage::Length() const {
   return SizeOf(file_);
 }
 
-bool RomImage::Holds(std::int64_t position, std::size_t count) const {
+bool RomImage::Holds(std::int64_t at, std::int64_t count) const {
   RequireOpen("measured");
-  // A device has no end and takes what it takes.
-  return position >= 0 && (!regularFile_ || position + static_cast<std::int64_t>(count) <= Length());
+  if (at < 0 || count < 0) return false;
+  return !regularFile_ || at + count <= Length();  // a device has no end and takes what it takes
 }
 
 Bytes RomImage::ReadBytes(std::size_t count) {
@@ -143,7 +143,7 @@ void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
   if (readOnly_) {
     throw Failure("The ROM is open read-only (the file cannot be written), so nothing was written" + where + ".");
   }
-  if (!Holds(position_, bytes.size())) {
+  if (!Holds(position_, static_cast<std::int64_t>(bytes.size()))) {
     throw Failure("Nothing was written" + where + ": " + std::to_string(bytes.size()) +
                   " bytes there would run past the end of the ROM, which is " + HexPosition(Length()) +
                   " bytes long.");

@@ -40,10 +40,10 @@ class RomImage {
 
   void Seek(RomOffset offset);
   std::int64_t Length() const;
-  // Whether `count` bytes from `position` on lie inside the file, so that a write there is
-  // not refused for running past its end. Every write keeps this bound; an action that
-  // writes several blocks asks it for each before the first.
-  bool Holds(std::int64_t position, std::size_t count) const;
+  // Whether `count` bytes from `at` lie inside the file: the one test by which a write is
+  // refused for running past the end, for a tool that writes several blocks to ask of each
+  // before its first write. A device holds any run from 0 on.
+  bool Holds(std::int64_t at, std::int64_t count) const;
 
   std::uint8_t ReadByte();
   std::int16_t ReadWord();

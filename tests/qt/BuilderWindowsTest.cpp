@@ -65,7 +65,7 @@ class BuilderWindowsTest : public ::testing::Test {
   }
 };
 
-TEST_F(BuilderWindowsTest, Form3WritesTheBattlePickedInItsLists) {
+TEST_F(BuilderWindowsTest, Form3WritesTheBattlePickedInItsListsOnEnter) {
   dialogs.messageAnswers = {MessageAnswer::No};  // no message in the script
   ASSERT_NE(Open(MenuEntry::mnuwbs, WindowName::Form3), nullptr);
   EXPECT_EQ(form->windowTitle(), "Insert Wild Battle Script");
@@ -73,7 +73,7 @@ TEST_F(BuilderWindowsTest, Form3WritesTheBattlePickedInItsLists) {
   EXPECT_EQ(Find<QLineEdit>("crytxt")->text(), "&H19");
   Type(Find<QLineEdit>("Text3"), "&H700000");
   const ByteOracle oracle(fixture.path());
-  QTest::mouseClick(Find<QPushButton>("Command1"), Qt::LeftButton);
+  QTest::keyClick(Find<QComboBox>("Combo3"), Qt::Key_Return);  // Enter in a list presses Insert
 
   EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 13}}));
   EXPECT_EQ(At(oracle, kS, 13), "6A 5A B6 19 00 05 02 00 30 A1 19 00 02");

@@ -144,7 +144,7 @@ TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNoth
       {"species before offset", [](Builder& b) { b.form3.crytxt.text = "x"; b.form3.Text3.text = "?"; }, 3,
        "PKMN Cry: \"x\""},
       {"initial offset", [](Builder& b) { b.form3.Text3.text = "&H000000"; }, 3,
-       "Offset: \"&H000000\" lies inside the cartridge header, which runs up to &HC0"},
+       "Offset: \"&H000000\" lies inside the cartridge header, &H0 to &HBF,"},
       {"offset 0", [](Builder& b) { b.form4.Text3.text = "0"; }, 4, "Offset: \"0\" lies inside the cartridge header"},
       {"last header byte", [](Builder& b) { b.form5.Text3.text = "&HBF"; }, 5,
        "Offset To insert Script: \"&HBF\" lies inside"},
@@ -178,6 +178,13 @@ TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNoth
   b.form3.Text3.text = "&HC0";
   InsertWildBattle(b.form3, b.rom, b.dialogs);
   EXPECT_EQ(b.dialogs.windowEvents.size(), 1u);
+}
+
+TEST(ScriptBuildersTest, WhatTheFileTakesTheInsertDoesNotRefuse) {
+  Builder b;
+  b.rom.Open("/dev/zero");  // a device, which has no end: every write there is taken
+  InsertWildBattle(b.form3, b.rom, b.dialogs);
+  EXPECT_THAT(b.dialogs.MessageTexts(), ElementsAre("Inserted"));
 }
 
 TEST(ScriptBuildersTest, AMessageThatDoesNotFitIsRefusedAfterTheScriptAndSaysSo) {
