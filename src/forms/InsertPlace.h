@@ -25,8 +25,9 @@ RomOffset ParseInsertOffset(std::string_view text, std::string_view field);
 
 // Throws Failure unless `length` bytes from `at` lie inside the open file: the sentence
 // names the field and its text, and says what would have gone there (`what`, as "the
-// script"). Also when no ROM is open.
-void RequireInsideRom(RomImage& rom, RomOffset at, std::int64_t length, std::string_view what,
+// script"). Also when no ROM is open. `at` is wide, so that a place worked out from a
+// table and an entry number (which may lie anywhere) is tested as it is, never wrapped.
+void RequireInsideRom(RomImage& rom, std::int64_t at, std::int64_t length, std::string_view what,
                       std::string_view field, std::string_view text);
 
 }  // namespace tessarine
