@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "editors/Form2.h"
 #include "editors/Form9.h"
 #include "forms/Form1.h"
 #include "rom/RomImage.h"
@@ -23,6 +24,7 @@ struct Session {
 
   RomImage rom;
   Form1 form1;
+  Form2 form2;
   Form7 form7;
   Form9 form9;
   frmAbout about;
