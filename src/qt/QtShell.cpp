@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "qt/Form1Window.h"
+#include "qt/Form2Window.h"
 #include "qt/Form5Window.h"
 #include "qt/Form9Window.h"
 #include "qt/WildBattleWindows.h"
@@ -16,6 +17,7 @@ QtShell::QtShell(Dialogs& questions)
     : dialogs_(*this, questions), main_(std::make_unique<Form1Window>(*this)) {}
 
 QtShell::~QtShell() {
+  delete form2Window_.data();
   delete form3Window_.data();
   delete form4Window_.data();
   delete form5Window_.data();
@@ -40,6 +42,7 @@ void QtShell::Run(const std::function<void()>& action) {
 
 void QtShell::RefreshAll() {
   main_->Refresh();
+  if (form2Window_) form2Window_->Refresh();
   if (form3Window_) form3Window_->Refresh();
   if (form4Window_) form4Window_->Refresh();
   if (form5Window_) form5Window_->Refresh();
@@ -52,6 +55,15 @@ void QtShell::ShowWindow(WindowName window) {
   switch (window) {
     case WindowName::Form1:
       shown = main_.get();
+      break;
+    case WindowName::Form2:
+      if (!form2Window_) {
+        session_.form2 = Form2{};
+        form2Window_ = new Form2Window(*this, session_.form2);
+        form2Window_->show();  // the form stands also when its load fails, and shows what it has
+        LoadForm2(session_.form2, session_.form1, session_.rom, dialogs_);
+      }
+      shown = form2Window_;
       break;
     case WindowName::Form3:
       if (!form3Window_) {
@@ -102,6 +114,9 @@ void QtShell::HideWindow(WindowName window) {
     case WindowName::Form1:
       main_->hide();
       break;
+    case WindowName::Form2:
+      if (form2Window_) form2Window_->close();  // closing drops it; it loads afresh next time
+      break;
     case WindowName::Form3:
       if (form3Window_) form3Window_->close();  // closing drops it; it loads afresh next time
       break;
@@ -125,6 +140,7 @@ void QtShell::HideWindow(WindowName window) {
 QWidget* QtShell::Window(WindowName window) const {
   switch (window) {
     case WindowName::Form1: return main_.get();
+    case WindowName::Form2: return form2Window_;
     case WindowName::Form3: return form3Window_;
     case WindowName::Form4: return form4Window_;
     case WindowName::Form5: return form5Window_;

@@ -13,6 +13,7 @@ class QWidget;
 namespace tessarine {
 
 class Form1Window;
+class Form2Window;
 class Form3Window;
 class Form4Window;
 class Form5Window;
@@ -75,6 +76,7 @@ class QtShell : public QObject {
   WindowDialogs dialogs_;
   Session session_;
   std::unique_ptr<Form1Window> main_;
+  QPointer<Form2Window> form2Window_;
   QPointer<Form3Window> form3Window_;
   QPointer<Form4Window> form4Window_;
   QPointer<Form5Window> form5Window_;
