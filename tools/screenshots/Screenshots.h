@@ -16,5 +16,6 @@ bool Save(QWidget* window, const QDir& dir, const QString& name);
 // The roads, one a window family; each makes its own fixtures and shell.
 bool ShootMainWindow(const QDir& dir);
 bool ShootScriptBuilders(const QDir& dir);
+bool ShootStarterEditor(const QDir& dir);
 
 }  // namespace tessarine::screenshots

@@ -29,5 +29,6 @@ int main(int argc, char** argv) {
   bool ok = true;
   ok &= ShootMainWindow(dir);
   ok &= ShootScriptBuilders(dir);
+  ok &= ShootStarterEditor(dir);
   return ok ? 0 : 1;
 }
