@@ -13,7 +13,7 @@ std::string FieldAndText(std::string_view field, std::string_view text) {
   return std::string(field) + ": \"" + std::string(text) + "\"";
 }
 
-// A place or a length as hexadecimal text; one that no long holds in decimal.
+// A place or a length as hexadecimal text; a negative one, or one past a long, in decimal.
 std::string HexNumber(std::int64_t number) {
   return number >= 0 && number <= INT32_MAX ? ToHexText(static_cast<std::int32_t>(number)) : std::to_string(number);
 }
@@ -35,7 +35,7 @@ void RequireInsideRom(RomImage& rom, std::int64_t at, std::int64_t length, std::
   if (!rom.IsOpen()) throw Failure("No ROM is open. Open a ROM first.");
   const std::int64_t romLength = rom.Length();
   if (at >= 0 && at + length <= romLength) return;
-  const std::string where = at < 0 ? ", would start before the start of the ROM."
+  const std::string where = at < 0 ? ", would lie before the start of the ROM."
                                    : ", would run past the end of the ROM, which is " + HexNumber(romLength) +
                                          " bytes long.";
   throw Failure(FieldAndText(field, text) + ": " + std::string(what) + ", " + std::to_string(length) +
