@@ -13,8 +13,9 @@ std::string FieldAndText(std::string_view field, std::string_view text) {
   return std::string(field) + ": \"" + std::string(text) + "\"";
 }
 
-std::string HexLength(std::int64_t length) {
-  return length <= INT32_MAX ? ToHexText(static_cast<std::int32_t>(length)) : std::to_string(length);
+// A place or a length as hexadecimal text; a negative one, or one past a long, in decimal.
+std::string HexNumber(std::int64_t number) {
+  return number >= 0 && number <= INT32_MAX ? ToHexText(static_cast<std::int32_t>(number)) : std::to_string(number);
 }
 
 }  // namespace
@@ -29,13 +30,15 @@ RomOffset ParseInsertOffset(std::string_view text, std::string_view field) {
   throw Failure(FieldAndText(field, text) + where + " Type the offset of free space (a place with lots of FFs).");
 }
 
-void RequireInsideRom(RomImage& rom, RomOffset at, std::int64_t length, std::string_view what,
+void RequireInsideRom(RomImage& rom, std::int64_t at, std::int64_t length, std::string_view what,
                       std::string_view field, std::string_view text) {
   if (!rom.IsOpen()) throw Failure("No ROM is open. Open a ROM first.");
   if (rom.Holds(at, length)) return;
+  const std::string where = at < 0 ? ", would lie before the start of the ROM."
+                                   : ", would run past the end of the ROM, which is " + HexNumber(rom.Length()) +
+                                         " bytes long.";
   throw Failure(FieldAndText(field, text) + ": " + std::string(what) + ", " + std::to_string(length) +
-                " bytes from " + ToHexText(at) + ", would run past the end of the ROM, which is " +
-                HexLength(rom.Length()) + " bytes long.");
+                " bytes from " + HexNumber(at) + where);
 }
 
 }  // namespace tessarine

@@ -26,8 +26,9 @@ RomOffset ParseInsertOffset(std::string_view text, std::string_view field);
 // Throws Failure unless the open file holds `length` bytes from `at`, by the test that
 // every write meets (RomImage::Holds), so that no write behind it is refused. The sentence
 // names the field and its text, and says what would have gone there (`what`, as "the
-// script"). Also when no ROM is open.
-void RequireInsideRom(RomImage& rom, RomOffset at, std::int64_t length, std::string_view what,
+// script"). Also when no ROM is open. `at` is wide, so that a place worked out from a
+// table and an entry number (which may lie anywhere) is tested as it is, never wrapped.
+void RequireInsideRom(RomImage& rom, std::int64_t at, std::int64_t length, std::string_view what,
                       std::string_view field, std::string_view text);
 
 }  // namespace tessarine

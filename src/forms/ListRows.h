@@ -10,6 +10,12 @@ namespace tessarine {
 inline constexpr int kSpeciesCount = 412;
 inline constexpr int kSpeciesNameLength = 11;
 
+// The item records: 347 of 44 bytes each, back to back from itemRecords, numbered from 0.
+// The first 14 bytes of a record are the item's name in game text.
+inline constexpr int kItemCount = 347;
+inline constexpr int kItemRecordLength = 44;
+inline constexpr int kItemNameLength = 14;
+
 // A row of a list whose row number is the value: three upper-case hexadecimal digits,
 // " - " and the name ("01A - " for row 26).
 std::string NumberedRow(int index, std::string_view name);

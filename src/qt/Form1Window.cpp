@@ -399,7 +399,7 @@ void Form1Window::PopUpToolsMenu(const QPoint& at) {
     action->setEnabled(item.enabled);
     const MenuEntry entry = item.entry;
     connect(action, &QAction::triggered, this, [this, entry] {
-      shell_.Run([this, entry] { RunMenuEntry(entry, shell_.form1(), shell_.rom(), shell_.dialogs()); });
+      shell_.Run([this, entry] { RunMenuEntry(entry, shell_.session(), shell_.dialogs()); });
     });
   }
   menu.exec(at);

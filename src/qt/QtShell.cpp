@@ -3,6 +3,8 @@
 #include <QApplication>
 
 #include "qt/Form1Window.h"
+#include "qt/Form2Window.h"
+#include "qt/Form2Window.h"
 #include "qt/Form5Window.h"
 #include "qt/Form6Window.h"
 #include "qt/Form8Window.h"
@@ -21,6 +23,7 @@ void QtShell::Place(WindowName name, Record& record) {
 }
 
 QtShell::QtShell(Dialogs& questions) : dialogs_(*this, questions), main_(std::make_unique<Form1Window>(*this)) {
+  Place<Form2Window>(WindowName::Form2, session_.form2);
   Place<Form3Window>(WindowName::Form3, session_.form3);
   Place<Form4Window>(WindowName::Form4, session_.form4);
   Place<Form5Window>(WindowName::Form5, session_.form5);
@@ -62,8 +65,11 @@ void QtShell::ShowWindow(WindowName window) {
     View& view = ViewOf(window);
     if (!view.make) return;  // a window that this program does not have
     if (!view.widget) {
-      LoadWindow(session_, dialogs_, window);
+      ResetWindow(session_, window);
       view.widget = view.make();
+      view.widget->show();
+      LoadWindow(session_, dialogs_, window);  // a load that fails leaves the window standing
+      view.refresh(view.widget);
     }
     shown = view.widget;
   }

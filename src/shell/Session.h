@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "braille/Form6.h"
+#include "editors/Form2.h"
 #include "editors/Form9.h"
 #include "flyland/Form8.h"
 #include "forms/Dialogs.h"
@@ -26,6 +27,7 @@ struct Session {
 
   RomImage rom;
   Form1 form1;
+  Form2 form2;
   Form3 form3;
   Form4 form4;
   Form5 form5;
@@ -39,8 +41,11 @@ struct Session {
   std::optional<int> form5LoadedAt;
 };
 
-// A window other than the main one is loaded afresh each time it is made: its record takes
-// its start values and its load runs (lists copied, the ROM read, the game code asked).
+// A window other than the main one is loaded afresh each time it is made. First its record
+// takes its start values (ResetWindow, which cannot fail); then, with the window on show,
+// its load runs (LoadWindow: lists copied, the ROM read, the game code asked). A load that
+// fails leaves the window standing with what it has.
+void ResetWindow(Session& session, WindowName window);
 void LoadWindow(Session& session, Dialogs& dialogs, WindowName window);
 
 }  // namespace tessarine

@@ -2,6 +2,8 @@
 
 #include "forms/Dialogs.h"
 #include "forms/Form1.h"
+#include "shell/NameEditorMenu.h"
+#include "shell/Session.h"
 
 namespace tessarine {
 namespace {
@@ -20,8 +22,8 @@ bool NeedsLoadedRom(MenuEntry entry) {
 
 }  // namespace
 
-void RunMenuEntry(MenuEntry entry, Form1& form, RomImage& /*rom*/, Dialogs& dialogs) {
-  if (NeedsLoadedRom(entry) && form.rom != "Loaded") {
+void RunMenuEntry(MenuEntry entry, Session& session, Dialogs& dialogs) {
+  if (NeedsLoadedRom(entry) && session.form1.rom != "Loaded") {
     dialogs.Message("Load a Rom First");
     return;
   }
@@ -37,8 +39,8 @@ void RunMenuEntry(MenuEntry entry, Form1& form, RomImage& /*rom*/, Dialogs& dial
     case MenuEntry::mnustart: dialogs.Show(WindowName::Form2); break;
     case MenuEntry::mnuflin: dialogs.Show(WindowName::Form8); break;
     case MenuEntry::mnufrst: dialogs.StartProgram(kKindlewick); break;  // a failure passes in silence
-    case MenuEntry::mnuedipmon:  // the name editors run their questions from their own module
-    case MenuEntry::mnuediten:
+    case MenuEntry::mnuedipmon: RunEditPokemonName(session.form1, session.rom, dialogs); break;
+    case MenuEntry::mnuediten: RunEditItemName(session, dialogs); break;
     case MenuEntry::nfdn:
     case MenuEntry::fhn:
       break;

@@ -6,6 +6,7 @@
 namespace tessarine {
 
 struct Form1;
+struct Session;
 class RomImage;
 class Dialogs;
 
@@ -27,10 +28,10 @@ struct Form7 {
       {MenuEntry::mnuwbs, "Insert Wild Battle Script", true},
       {MenuEntry::mnugps, "Insert Give Pokemon Script", true},
       {MenuEntry::mnuib, "Insert Braille", true},
-      {MenuEntry::mnustart, "Starter Editor", false},
+      {MenuEntry::mnustart, "Starter Editor", true},
       {MenuEntry::mnuflin, "Wingfall", true},
-      {MenuEntry::mnuedipmon, "Edit Pokemon Name", false},
-      {MenuEntry::mnuediten, "Edit Item Name", false},
+      {MenuEntry::mnuedipmon, "Edit Pokemon Name", true},
+      {MenuEntry::mnuediten, "Edit Item Name", true},
       {MenuEntry::fhn, "~Programs~", false},
       {MenuEntry::mnufrst, "Kindlewick", true},
   }};
@@ -39,8 +40,8 @@ struct Form7 {
 // The sibling program that the last entry starts, by name alone.
 inline constexpr const char* kKindlewick = "Kindlewick";
 
-// Runs a menu entry. The entries that work on the open ROM first test that one is loaded
-// and otherwise say "Load a Rom First" and do nothing.
-void RunMenuEntry(MenuEntry entry, Form1& form, RomImage& rom, Dialogs& dialogs);
+// Runs a menu entry, as a click on it does. The entries that work on the open ROM first
+// test that one is loaded and otherwise say "Load a Rom First" and do nothing.
+void RunMenuEntry(MenuEntry entry, Session& session, Dialogs& dialogs);
 
 }  // namespace tessarine

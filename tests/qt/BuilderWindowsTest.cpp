@@ -41,7 +41,7 @@ class BuilderWindowsTest : public ::testing::Test {
     dialogs.openFileAnswers.push_back(fixture.path());
     shell.Run([this, entry] {
       OpenRom(shell.form1(), shell.rom(), shell.dialogs());
-      RunMenuEntry(entry, shell.form1(), shell.rom(), shell.dialogs());
+      RunMenuEntry(entry, shell.session(), shell.dialogs());
     });
     form = shell.Window(window);
     return form;

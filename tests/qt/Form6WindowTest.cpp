@@ -35,7 +35,7 @@ TEST(Form6WindowTest, TheWidgetsInsertLoadAndPreviewABrailleRecord) {
   fixture.PutBytes(0x700000, Bytes(16, 0x11)).PutBytes(0x700100, Bytes(16, 0x11));
   shell.rom().Open(fixture.path());
   shell.form1().rom = "Loaded";
-  shell.Run([&] { RunMenuEntry(MenuEntry::mnuib, shell.form1(), shell.rom(), shell.dialogs()); });
+  shell.Run([&] { RunMenuEntry(MenuEntry::mnuib, shell.session(), shell.dialogs()); });
   QWidget* window = shell.Window(WindowName::Form6);
   ASSERT_NE(window, nullptr);
   ASSERT_TRUE(QTest::qWaitForWindowExposed(window));

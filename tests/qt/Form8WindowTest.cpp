@@ -42,7 +42,7 @@ TEST(Form8WindowTest, ClicksOnTheScrolledMapReachTheRecordAndTheSaveReachesTheFi
   QtShell shell(dialogs);
   dialogs.openFileAnswers.push_back(fixture.path());
   shell.Run([&] { OpenRom(shell.form1(), shell.rom(), shell.dialogs()); });
-  shell.Run([&] { RunMenuEntry(MenuEntry::mnuflin, shell.form1(), shell.rom(), shell.dialogs()); });
+  shell.Run([&] { RunMenuEntry(MenuEntry::mnuflin, shell.session(), shell.dialogs()); });
   QWidget* window = shell.Window(WindowName::Form8);
   ASSERT_NE(window, nullptr);
   ASSERT_TRUE(QTest::qWaitForWindowExposed(window));

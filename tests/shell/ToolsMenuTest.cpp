@@ -5,6 +5,7 @@
 
 #include "forms/Form1.h"
 #include "rom/RomImage.h"
+#include "shell/Session.h"
 #include "support/ScriptedDialogs.h"
 
 namespace tessarine {
@@ -34,28 +35,26 @@ TEST(ToolsMenuTest, ToolsOfTheOpenRomWantOneLoadedFirst) {
                                                       {MenuEntry::mnuflin, WindowName::Form8},
                                                       {MenuEntry::mnuwbs, WindowName::Form3}};
   for (const auto& [entry, window] : guarded) {
-    Form1 form;
-    RomImage rom;
+    Session session;
     ScriptedDialogs dialogs;
-    RunMenuEntry(entry, form, rom, dialogs);
+    RunMenuEntry(entry, session, dialogs);
     EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("Load a Rom First"));
     EXPECT_THAT(dialogs.windowEvents, IsEmpty());
 
-    form.rom = "Loaded";
+    session.form1.rom = "Loaded";
     dialogs.messages.clear();
-    RunMenuEntry(entry, form, rom, dialogs);
+    RunMenuEntry(entry, session, dialogs);
     EXPECT_THAT(dialogs.windowEvents, ElementsAre(Window{window, true}));
   }
 }
 
 TEST(ToolsMenuTest, TheWildBattleEntryAsksWhetherTheScriptHasAMessage) {
-  Form1 form;
-  form.rom = "Loaded";
-  RomImage rom;
+  Session session;
+  session.form1.rom = "Loaded";
   ScriptedDialogs dialogs;
   dialogs.messageAnswers = {MessageAnswer::Yes, MessageAnswer::No};
-  RunMenuEntry(MenuEntry::mnuwbs, form, rom, dialogs);
-  RunMenuEntry(MenuEntry::mnuwbs, form, rom, dialogs);
+  RunMenuEntry(MenuEntry::mnuwbs, session, dialogs);
+  RunMenuEntry(MenuEntry::mnuwbs, session, dialogs);
   ASSERT_EQ(dialogs.messages.size(), 2u);
   EXPECT_EQ(dialogs.messages[0].text, "You wan't a Message in your event script?");
   EXPECT_EQ(dialogs.messages[0].title, "Ok.");
@@ -64,12 +63,11 @@ TEST(ToolsMenuTest, TheWildBattleEntryAsksWhetherTheScriptHasAMessage) {
 }
 
 TEST(ToolsMenuTest, KindlewickStartsByNameAndFailsInSilence) {
-  Form1 form;  // no ROM needed
-  RomImage rom;
+  Session session;  // no ROM needed
   ScriptedDialogs dialogs;
   dialogs.programsStart = false;
-  RunMenuEntry(MenuEntry::mnufrst, form, rom, dialogs);
-  RunMenuEntry(MenuEntry::mnustart, form, rom, dialogs);  // no guard either
+  RunMenuEntry(MenuEntry::mnufrst, session, dialogs);
+  RunMenuEntry(MenuEntry::mnustart, session, dialogs);  // no guard either
   EXPECT_THAT(dialogs.programsStarted, ElementsAre("Kindlewick"));
   EXPECT_THAT(dialogs.messages, IsEmpty());
   EXPECT_THAT(dialogs.windowEvents, ElementsAre(Window{WindowName::Form2, true}));

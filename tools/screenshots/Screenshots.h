@@ -18,5 +18,6 @@ bool ShootMainWindow(const QDir& dir);
 bool ShootScriptBuilders(const QDir& dir);
 bool ShootWingfall(const QDir& dir);
 bool ShootBrailleInserter(const QDir& dir);
+bool ShootStarterEditor(const QDir& dir);
 
 }  // namespace tessarine::screenshots

@@ -31,5 +31,6 @@ int main(int argc, char** argv) {
   ok &= ShootScriptBuilders(dir);
   ok &= ShootWingfall(dir);
   ok &= ShootBrailleInserter(dir);
+  ok &= ShootStarterEditor(dir);
   return ok ? 0 : 1;
 }

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tessarine {
+
+class RomImage;
+
+// "Edit Pokemon Name" and "Edit Item Name" overwrite one name in the ROM. Each asks for
+// the entry's number and the new name; these are their questions.
+inline constexpr std::string_view kPokemonEntryPrompt = "Enter &H and the Hex of the Pokemon you would like to edit.";
+inline constexpr std::string_view kPokemonNamePrompt =
+    "Enter a new name. Max Length 11, Any more and you will screw up.";
+inline constexpr std::string_view kItemEntryPrompt = "Enter &H and the Hex of the Item you would like to edit.";
+inline constexpr std::string_view kItemNamePrompt = "Enter a new name. Max Length 14, Any more and you will screw up.";
+
+// The typed name cut to its first `characters` characters, or filled up to them with
+// blanks. Counts characters, not bytes, and does it before encoding, so a form of several
+// characters such as "[PK]" counts as all of them and may be cut in two.
+std::string FitName(std::string_view typed, int characters);
+
+// Writes the name of species `entry` in the table at `Label20` (11 bytes a record): the
+// name fitted to 11 characters and encoded as game text, and only the bytes the encoder
+// gives, so a name with forms of several characters keeps the field's last bytes. No end
+// byte is added. Throws Failure, before any write, when `Label20` is no offset or the
+// field does not lie inside the open file.
+void EditPokemonName(RomImage& rom, std::string_view Label20, std::int32_t entry, std::string_view name);
+
+// The same for item `entry` in the records at `itemRecords` (44 bytes a record, the name
+// in the first 14), the name fitted to 14 characters.
+void EditItemName(RomImage& rom, std::string_view itemRecords, std::int32_t entry, std::string_view name);
+
+}  // namespace tessarine

@@ -1,0 +1,94 @@
+#include "editors/Form2.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/ByteOracle.h"
+#include "support/Failures.h"
+#include "support/FixtureRom.h"
+#include "support/MainSession.h"
+#include "text/HexBytes.h"
+
+namespace tessarine {
+namespace {
+
+using test::ByteOracle;
+using test::ReadWholeFile;
+
+// The game opened and the form loaded, rows picked; then another tool writes AA AA over the
+// three words, so that the oracle sees every word that "Save" writes.
+TEST(Form2Test, SaveWritesTheRowOfEachListAtTheGamesPlaces) {
+  struct Case {
+    const char* code;
+    std::array<RomOffset, 3> at;
+    std::array<std::uint16_t, 3> stored;
+    std::array<int, 3> shown;                // rows chosen by the load; -1: the number has no row
+    std::vector<std::pair<int, int>> picks;  // ball, row
+    std::vector<test::ByteRange> changes;
+    std::string written;  // the three words after the save
+    std::vector<std::string> told{"Saved"};
+  };
+  const std::string noRow = ", which has no row in the list (the last is &H19B). Its list shows no choice, and ";
+  const Case cases[] = {
+      {"AXVE", {0x3F76C4, 0x3F76C6, 0x3F76C8}, {0x115, 0x118, 0x11B}, {277, 280, 283}, {}, {{0x3F76C4, 6}},
+       "15 01 18 01 1B 01"},
+      {"BPRE", {0x169BB5, 0x169D82, 0x169DB8}, {1, 4, 7}, {1, 4, 7}, {}, {{0x169BB5, 2}, {0x169D82, 2}, {0x169DB8, 2}},
+       "01 00 04 00 07 00"},
+      {"BPGE", {0x169B91, 0x169D5E, 0x169D94}, {0x19B, 0, 0x100}, {411, 0, 256}, {{0, 0}},
+       {{0x169B91, 2}, {0x169D5E, 2}, {0x169D94, 2}}, "00 00 00 00 00 01"},
+      {"AXPE", {0x3F771C, 0x3F771E, 0x3F7720}, {0x1F4, 2, 0xFFFF}, {-1, 2, -1}, {{2, 5}}, {{0x3F771C, 6}},
+       "F4 01 02 00 05 00",
+       {"Ball 1 holds species &H1F4" + noRow + "\"Save\" writes &H1F4 back unless you choose a row for it.\nBall 3 "
+        "holds species &HFFFF" + noRow + "\"Save\" writes &HFFFF back unless you choose a row for it.", "Saved"}},
+      {"BPEJ", {0x590C08, 0x590C0A, 0x590C0C}, {0x115, 0x118, 0x11B}, {277, 280, 283}, {}, {{0x590C08, 6}},
+       "15 01 18 01 1B 01"},
+      {"ABCD", {0x3F76C4, 0x3F76C6, 0x3F76C8}, {1, 2, 3}, {0, 0, 0}, {}, {}, "AA AA AA AA AA AA", {}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.code);
+    test::FixtureRom fixture(c.code);
+    for (int i = 0; i < 3; ++i) fixture.PutWord(c.at[i], c.stored[i]);
+    test::MainSession s;
+    s.Open(fixture.path());
+    s.dialogs.messages.clear();
+    Form2 form;
+    LoadForm2(form, s.form, s.rom, s.dialogs);
+    EXPECT_EQ((std::array{form.Combo1.selected, form.Combo2.selected, form.Combo3.selected}), c.shown);
+    void (*const pick[])(Form2&, int) = {SetCombo1Selection, SetCombo2Selection, SetCombo3Selection};
+    for (const auto& [ball, row] : c.picks) pick[ball](form, row);
+    for (const RomOffset at : c.at) s.rom.WriteWord(at, std::int16_t(0xAAAA));
+    const ByteOracle oracle(fixture.path());
+    PressSave(form, s.form, s.rom, s.dialogs);
+
+    EXPECT_EQ(oracle.Changes(), c.changes);
+    const Bytes now = oracle.Now();
+    Bytes words;
+    for (const RomOffset at : c.at) words.insert(words.end(), now.begin() + at, now.begin() + at + 2);
+    EXPECT_EQ(test::ToHex(words), c.written);
+    EXPECT_EQ(s.dialogs.MessageTexts(), c.told);
+  }
+}
+
+TEST(Form2Test, ReloadShowsAnotherToolsWriteAndSaveChecksBeforeItWrites) {
+  test::FixtureRom ruby = test::FixtureRom::Ruby(), shortEmerald("BPEJ", 0x590C0D);  // ends inside Ball 3
+  test::MainSession s;
+  s.Open(ruby.path());
+  Form2 form;
+  LoadForm2(form, s.form, s.rom, s.dialogs);
+  s.rom.WriteWord(0x3F76C6, 0x19);
+  LoadForm2(form, s.form, s.rom, s.dialogs);
+  EXPECT_EQ(form.Combo2.selected, 0x19);
+
+  s.Open(shortEmerald.path());
+  EXPECT_EQ(test::FailureOf([&] { PressSave(form, s.form, s.rom, s.dialogs); }),
+            "The starters on show were not read from the ROM that is open now. Press \"Reload\" to read its "
+            "starters. Nothing was saved.");
+  LoadForm2(form, s.form, s.rom, s.dialogs);
+  EXPECT_EQ(test::FailureOf([&] { PressSave(form, s.form, s.rom, s.dialogs); }),
+            "Ball 3: \"&H590C0C\": its species, 2 bytes from &H590C0C, would run past the end of the ROM, which "
+            "is &H590C0D bytes long. No starter was written.");
+  EXPECT_EQ(ReadWholeFile(shortEmerald.path()), shortEmerald.image());
+}
+
+}  // namespace
+}  // namespace tessarine
