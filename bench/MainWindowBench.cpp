@@ -1,12 +1,20 @@
 #include <benchmark/benchmark.h>
 
+#include <malloc.h>
+
+#include <fstream>
+#include <string>
+
 #include <QApplication>
 #include <QEvent>
+#include <QLineEdit>
 #include <QObject>
+#include <QPushButton>
 
 #include "events/EventSelection.h"
 #include "forms/Form1.h"
 #include "qt/Form1Window.h"
+#include "qt/LinedTextBoxWidget.h"
 #include "qt/QtShell.h"
 #include "rom/RomImage.h"
 #include "shell/OpenRom.h"
@@ -74,6 +82,55 @@ void BM_MainWindowToFirstPaint(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_MainWindowToFirstPaint)->Unit(benchmark::kMillisecond)->Iterations(20);
+
+// A line of /proc/self/status, in MB: VmRSS is the memory resident now, VmHWM the most that
+// was resident since the last ResetPeakResident.
+double ResidentMegabytes(const std::string& field) {
+  std::ifstream status("/proc/self/status");
+  for (std::string line; std::getline(status, line);) {
+    if (line.rfind(field + ":", 0) == 0) return std::stod(line.substr(field.size() + 1)) * 1024.0 / 1e6;
+  }
+  return 0;
+}
+
+void ResetPeakResident() { std::ofstream("/proc/self/clear_refs") << "5"; }
+
+// A press of Command2 that lists 8 MiB of free space (one "Byte: &HFF " line a byte, about
+// 109 MB of text) into Text4, until the whole listing is in the box. Reports the most memory
+// resident at once during the press above what was resident before it, also as a multiple
+// of the listing's size: every copy of the listing that the road holds at once counts.
+void BM_ListAndShowEightMegabytesInText4(benchmark::State& state) {
+  test::FixtureRom fixture = test::FixtureRom::Sapphire();
+  const std::string path = fixture.path();
+  double peak = 0;
+  double listing = 0;
+  for (auto _ : state) {
+    test::ScriptedDialogs dialogs;
+    QtShell shell(dialogs);
+    shell.ShowWindow(WindowName::Form1);
+    dialogs.openFileAnswers.push_back(path);
+    shell.Run([&] { OpenRom(shell.form1(), shell.rom(), shell.dialogs()); });
+    Form1Window& window = shell.mainWindow();
+    auto* text4 = window.findChild<LinedTextBoxWidget*>("Text4");
+    window.findChild<QLineEdit*>("Text3")->setText("&H800000");
+    shell.form1().Text3.text = "&H800000";
+    QApplication::processEvents();
+    malloc_trim(0);
+    const double before = ResidentMegabytes("VmRSS");
+    ResetPeakResident();
+
+    window.findChild<QPushButton*>("Command2")->click();
+    text4->FinishFilling();
+    QApplication::processEvents();
+
+    peak = ResidentMegabytes("VmHWM") - before;
+    listing = static_cast<double>(shell.form1().Text4.text.size()) / 1e6;
+  }
+  state.counters["listing_MB"] = listing;
+  state.counters["peak_MB"] = peak;
+  state.counters["peak_per_listing"] = peak / listing;
+}
+BENCHMARK(BM_ListAndShowEightMegabytesInText4)->Unit(benchmark::kSecond)->Iterations(1);
 
 }  // namespace
 }  // namespace tessarine
