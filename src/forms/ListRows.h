@@ -10,6 +10,9 @@ namespace tessarine {
 inline constexpr int kSpeciesCount = 412;
 inline constexpr int kSpeciesNameLength = 11;
 
+// A species number: 0 to 411, a row of the species list. The one bound of a species.
+constexpr bool IsSpeciesNumber(int value) { return value >= 0 && value < kSpeciesCount; }
+
 // A row of a list whose row number is the value: three upper-case hexadecimal digits,
 // " - " and the name ("01A - " for row 26).
 std::string NumberedRow(int index, std::string_view name);
