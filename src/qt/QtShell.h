@@ -17,8 +17,9 @@ class Form9Window;
 class frmAboutWindow;
 
 // The running program: its Session (the one RomImage and the records) and every window.
-// Each action of a person starts in Run, the one place where a Failure is caught and its
-// sentence shown; after the action every open window shows its record afresh.
+// Each action of a person starts in Run, the one place where a Failure (or anything else
+// thrown) is caught and its sentence shown; after the action every open window shows its
+// record afresh.
 class QtShell : public QObject {
   Q_OBJECT
 
