@@ -50,16 +50,15 @@ void BM_PressToPaintOfAMillionLines(benchmark::State& state) {
   ShownBox shown;
   for (auto _ : state) {
     ListIntoText4(form, rom, ui);
-    const QString text = QString::fromStdString(form.Text4.text);
     if (mode == 2) {
-      shown.box.setPlainText(text);
+      shown.box.setPlainText(QString::fromStdString(form.Text4.text));
     } else {
-      shown.box.ShowPlainText(text);
+      shown.box.ShowPlainText(form.Text4.text);
       if (mode == 1) shown.box.FinishFilling();
     }
     shown.Paint();
     state.PauseTiming();
-    shown.box.ShowPlainText({});
+    shown.box.ShowPlainText(std::string());
     QCoreApplication::processEvents();
     state.ResumeTiming();
   }
@@ -74,11 +73,11 @@ void BM_OnePartOfAFilling(benchmark::State& state) {
   ShownBox shown;
   std::string listing;
   for (int i = 0; i < kMillion; ++i) listing += "Byte: &HFF \r\n";
-  shown.box.ShowPlainText(QString::fromStdString(listing));
+  shown.box.ShowPlainText(listing);
   for (auto _ : state) {
     if (!shown.box.Filling()) {
       state.PauseTiming();
-      shown.box.ShowPlainText(QString::fromStdString(listing));
+      shown.box.ShowPlainText(listing);
       state.ResumeTiming();
     }
     QCoreApplication::processEvents(QEventLoop::AllEvents);  // one part, from the box's timer
