@@ -21,7 +21,7 @@ std::string Lines(int count) {
   return lines;
 }
 
-// A window with the box and a second field to take the focus away.
+// The box as Text4 has it, in a window with a second field to take the focus away.
 class LinedTextBoxWidgetTest : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -34,11 +34,10 @@ class LinedTextBoxWidgetTest : public ::testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
     box_->setFocus();
   }
-  // The gutter's plan once every pending paint has been made.
+  // The plan of the gutter's paint once every pending paint has been made.
   const GutterPaint& Painted() {
     QCoreApplication::processEvents();
-    EXPECT_TRUE(box_->LastGutterPaint().has_value());
-    return *box_->LastGutterPaint();
+    return box_->LastGutterPaint().value();
   }
   std::vector<int> Tinted() {
     std::vector<int> lines;
@@ -47,38 +46,31 @@ class LinedTextBoxWidgetTest : public ::testing::Test {
     }
     return lines;
   }
-  // The middle of the gutter's row of `line`.
-  QPoint RowMiddle(int line) {
-    const GutterRow& row = Painted().rows.at(static_cast<std::size_t>(line - Painted().firstLine));
-    return QPoint((row.rect.left + row.rect.right) / 2, (row.rect.top + row.rect.bottom) / 2);
+  QPoint Middle(int line) {  // of the line's row in the gutter
+    const PixelRect& r = Painted().rows.at(static_cast<std::size_t>(line - Painted().firstLine)).rect;
+    return QPoint((r.left + r.right) / 2, (r.top + r.bottom) / 2);
   }
-  void SendMouse(QEvent::Type type, int line, Qt::MouseButtons held) {
-    const QPoint at = RowMiddle(line);
+  void Mouse(QEvent::Type type, int line, Qt::MouseButtons held) {
+    const QPoint at = Middle(line);
     QMouseEvent event(type, at, box_->Gutter()->mapToGlobal(at), Qt::LeftButton, held, Qt::NoModifier);
     QCoreApplication::sendEvent(box_->Gutter(), &event);
   }
-
   QWidget window_;
   LinedTextBoxWidget* box_ = nullptr;
   QLineEdit* other_ = nullptr;
 };
 
-TEST_F(LinedTextBoxWidgetTest, TheTrayIsLaidOutOnceFromNumDigitsAndTheFont) {
-  const int fourZeros = box_->fontMetrics().horizontalAdvance("0000");
-  EXPECT_EQ(box_->TrayWidth(), fourZeros + 20);
+// The strip gives up TrayWidth pixels of the box, beside its text view, and follows its font.
+TEST_F(LinedTextBoxWidgetTest, TheTrayIsLaidOutFromNumDigitsAndTheFont) {
+  EXPECT_EQ(box_->TrayWidth(), box_->fontMetrics().horizontalAdvance("0000") + 20);
   EXPECT_EQ(box_->Gutter()->geometry().right() + 1, box_->viewport()->geometry().left());
   box_->EnableLineNumbers(true, 8);  // already on: nothing changes
   EXPECT_EQ(box_->NumDigits(), 4);
-  box_->EnableLineNumbers(false, 8);
-  EXPECT_EQ(box_->viewport()->geometry().left(), box_->frameWidth());
-  EXPECT_FALSE(box_->Gutter()->isVisible());
-  box_->EnableLineNumbers(true, 0);  // 0 behaves as 4
-  EXPECT_EQ(box_->TrayWidth(), fourZeros + 20);
-  EXPECT_EQ(Painted().rows.at(0).number, "0001");
   QFont larger = box_->font();
   larger.setPointSize(larger.pointSize() * 2);
   box_->setFont(larger);
   EXPECT_EQ(box_->TrayWidth(), box_->fontMetrics().horizontalAdvance("0000") + 20);
+  EXPECT_EQ(box_->Gutter()->geometry().right() + 1, box_->viewport()->geometry().left());
 }
 
 TEST_F(LinedTextBoxWidgetTest, TypingSelectingAndTheFocusMarkTheLinesInTheGutter) {
@@ -86,10 +78,7 @@ TEST_F(LinedTextBoxWidgetTest, TypingSelectingAndTheFocusMarkTheLinesInTheGutter
   EXPECT_EQ(Tinted(), std::vector<int>{1});  // an empty box: line 1, the caret's
   EXPECT_EQ(Painted().tint, BlendColors(ToRgb(colors.color(QPalette::Highlight)), kWhite, 50));
   EXPECT_EQ(Painted().frameColor, ToRgb(colors.color(QPalette::Highlight)));
-  for (const char* word : {"lock", "faceplayer", "cry"}) {
-    QTest::keyClicks(box_, word);
-    QTest::keyClick(box_, Qt::Key_Return);
-  }
+  QTest::keyClicks(box_, "lock\rfaceplayer\rcry\r");
   QTest::keyClick(box_, Qt::Key_Up, Qt::ShiftModifier);
   QTest::keyClick(box_, Qt::Key_Up, Qt::ShiftModifier);
   EXPECT_EQ(Tinted(), (std::vector<int>{2, 3, 4}));
@@ -102,40 +91,34 @@ TEST_F(LinedTextBoxWidgetTest, TypingSelectingAndTheFocusMarkTheLinesInTheGutter
   QTest::keyClick(box_, Qt::Key_X);
   Painted();
   EXPECT_GT(box_->GutterPaints(), paints);
-  other_->setFocus();  // without the focus: the pale tint and the shadow frame
+  other_->setFocus();  // without the focus: the pale tint, the shadow frame
   EXPECT_EQ(Painted().tint, BlendColors(ToRgb(colors.color(QPalette::Button)), kWhite, 75));
   EXPECT_EQ(Painted().frameColor, ToRgb(colors.color(QPalette::Dark)));
   EXPECT_EQ(Painted().lineColor, ToRgb(colors.color(QPalette::Dark)));
 }
 
-TEST_F(LinedTextBoxWidgetTest, RowsStandBesideTheirTextLinesAndFollowScrolling) {
+TEST_F(LinedTextBoxWidgetTest, RowsStandBesideTheirLinesFollowScrollingAndTakeThePressesOfTheMouse) {
   const std::string text = Lines(1000);
   box_->ShowPlainText(text);
   box_->verticalScrollBar()->setValue(100);
-  const GutterPaint& scrolled = Painted();
-  EXPECT_EQ(scrolled.rows.front().number, "0101");
+  EXPECT_EQ(Painted().rows.front().number, "0101");
   EXPECT_EQ(Tinted(), std::vector<int>{});  // the caret's line 1 is out of view
-  EXPECT_FALSE(scrolled.frame.has_value());
+  EXPECT_FALSE(Painted().frame.has_value());
   for (const int line : {101, 104}) {
     const int textTop = box_->cursorRect(QTextCursor(box_->document()->findBlockByNumber(line - 1))).top();
-    EXPECT_NEAR(scrolled.rows.at(static_cast<std::size_t>(line - 101)).rect.top, textTop + 1, 1) << line;
+    EXPECT_NEAR(Painted().rows.at(static_cast<std::size_t>(line - 101)).rect.top, textTop + 1, 1) << line;
   }
-}
-
-TEST_F(LinedTextBoxWidgetTest, APressInTheGutterReachesTheTextAndADragSelectsLines) {
-  const std::string text = Lines(50);
-  box_->ShowPlainText(text);
-  other_->setFocus();
-  QTest::mouseClick(box_->Gutter(), Qt::LeftButton, Qt::NoModifier, RowMiddle(3));
+  other_->setFocus();  // a press in the gutter is a press in the text, left of it
+  QTest::mouseClick(box_->Gutter(), Qt::LeftButton, Qt::NoModifier, Middle(103));
   EXPECT_TRUE(box_->hasFocus());
-  EXPECT_EQ(box_->textCursor().blockNumber(), 2);
-  EXPECT_EQ(box_->textCursor().positionInBlock(), 0);
-  SendMouse(QEvent::MouseButtonPress, 2, Qt::LeftButton);
-  SendMouse(QEvent::MouseMove, 4, Qt::LeftButton);
-  EXPECT_EQ(Tinted(), (std::vector<int>{2, 3, 4}));  // the gutter follows each step
-  SendMouse(QEvent::MouseMove, 6, Qt::LeftButton);
-  SendMouse(QEvent::MouseButtonRelease, 6, Qt::NoButton);
-  EXPECT_EQ(box_->textCursor().selectedText().toStdString(), "line 2\u2029line 3\u2029line 4\u2029line 5\u2029");
+  EXPECT_EQ(std::pair(box_->textCursor().blockNumber(), box_->textCursor().positionInBlock()), std::pair(102, 0));
+  Mouse(QEvent::MouseButtonPress, 102, Qt::LeftButton);  // a drag down the gutter selects whole lines
+  Mouse(QEvent::MouseMove, 104, Qt::LeftButton);
+  EXPECT_EQ(Tinted(), (std::vector<int>{102, 103, 104}));  // and the gutter follows each step
+  Mouse(QEvent::MouseMove, 106, Qt::LeftButton);
+  Mouse(QEvent::MouseButtonRelease, 106, Qt::NoButton);
+  EXPECT_EQ(box_->textCursor().selectedText().toStdString(),
+            "line 102\u2029line 103\u2029line 104\u2029line 105\u2029");
 }
 
 TEST_F(LinedTextBoxWidgetTest, ALongTextShowsItsStartAtOnceAndFillsWhileTheBoxStaysInUse) {
@@ -157,8 +140,8 @@ TEST_F(LinedTextBoxWidgetTest, ALongTextShowsItsStartAtOnceAndFillsWhileTheBoxSt
 
   box_->ShowPlainText(text);  // another text stops the filling of the one before
   const QPointer<QTextDocument> replaced = box_->document();
-  const std::string short_ = "lock\r\n";
-  box_->ShowPlainText(short_);
+  const std::string lock = "lock\r\n";
+  box_->ShowPlainText(lock);
   EXPECT_FALSE(box_->Filling());
   EXPECT_TRUE(replaced.isNull());  // and the box keeps no text it left
   QCoreApplication::processEvents();
