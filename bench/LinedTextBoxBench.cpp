@@ -18,6 +18,7 @@ namespace tessarine {
 namespace {
 
 constexpr int kMillion = 1000000;
+const std::string kNothing;
 
 // Text4 as the main window shows it: a box with its gutter of four digits, on screen.
 struct ShownBox {
@@ -58,7 +59,7 @@ void BM_PressToPaintOfAMillionLines(benchmark::State& state) {
     }
     shown.Paint();
     state.PauseTiming();
-    shown.box.ShowPlainText(std::string());
+    shown.box.ShowPlainText(kNothing);
     QCoreApplication::processEvents();
     state.ResumeTiming();
   }

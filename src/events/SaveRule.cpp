@@ -1,5 +1,8 @@
 #include "events/SaveRule.h"
 
+#include <cstdint>
+#include <utility>
+
 #include "events/EventCatalogue.h"
 #include "forms/Form1.h"
 #include "forms/ListRows.h"

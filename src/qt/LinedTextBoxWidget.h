@@ -42,6 +42,7 @@ class LinedTextBoxWidget : public QPlainTextEdit {
   // filling of the text before. (The main window hands it the record's Text4, which only an
   // action changes; each action ends with a refresh that hands it over again.)
   void ShowPlainText(const std::string& text);
+  void ShowPlainText(std::string&& text) = delete;  // a temporary would be gone before the parts are read
   // True while parts of the last text are still to come.
   bool Filling() const { return source_ != nullptr; }
   // Adds what is still to come at once.
