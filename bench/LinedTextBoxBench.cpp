@@ -18,6 +18,7 @@ namespace tessarine {
 namespace {
 
 constexpr int kMillion = 1000000;
+const std::string kNothing;
 
 // Text4 as the main window shows it: a box with its gutter of four digits, on screen.
 struct ShownBox {
@@ -50,16 +51,15 @@ void BM_PressToPaintOfAMillionLines(benchmark::State& state) {
   ShownBox shown;
   for (auto _ : state) {
     ListIntoText4(form, rom, ui);
-    const QString text = QString::fromStdString(form.Text4.text);
     if (mode == 2) {
-      shown.box.setPlainText(text);
+      shown.box.setPlainText(QString::fromStdString(form.Text4.text));
     } else {
-      shown.box.ShowPlainText(text);
+      shown.box.ShowPlainText(form.Text4.text);
       if (mode == 1) shown.box.FinishFilling();
     }
     shown.Paint();
     state.PauseTiming();
-    shown.box.ShowPlainText({});
+    shown.box.ShowPlainText(kNothing);
     QCoreApplication::processEvents();
     state.ResumeTiming();
   }
@@ -74,11 +74,11 @@ void BM_OnePartOfAFilling(benchmark::State& state) {
   ShownBox shown;
   std::string listing;
   for (int i = 0; i < kMillion; ++i) listing += "Byte: &HFF \r\n";
-  shown.box.ShowPlainText(QString::fromStdString(listing));
+  shown.box.ShowPlainText(listing);
   for (auto _ : state) {
     if (!shown.box.Filling()) {
       state.PauseTiming();
-      shown.box.ShowPlainText(QString::fromStdString(listing));
+      shown.box.ShowPlainText(listing);
       state.ResumeTiming();
     }
     QCoreApplication::processEvents(QEventLoop::AllEvents);  // one part, from the box's timer

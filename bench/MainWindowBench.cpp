@@ -1,12 +1,25 @@
 #include <benchmark/benchmark.h>
 
+#include <malloc.h>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <fstream>
+#include <functional>
+#include <string>
+#include <thread>
+
 #include <QApplication>
 #include <QEvent>
+#include <QLineEdit>
 #include <QObject>
+#include <QPushButton>
 
 #include "events/EventSelection.h"
 #include "forms/Form1.h"
 #include "qt/Form1Window.h"
+#include "qt/LinedTextBoxWidget.h"
 #include "qt/QtShell.h"
 #include "rom/RomImage.h"
 #include "shell/OpenRom.h"
@@ -74,6 +87,78 @@ void BM_MainWindowToFirstPaint(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_MainWindowToFirstPaint)->Unit(benchmark::kMillisecond)->Iterations(20);
+
+// A line of /proc/self/status, in MB: VmRSS is the memory resident now, VmHWM the most that
+// was resident since the last ResetPeakResident.
+double ResidentMegabytes(const std::string& field) {
+  std::ifstream status("/proc/self/status");
+  for (std::string line; std::getline(status, line);) {
+    if (line.rfind(field + ":", 0) == 0) return std::stod(line.substr(field.size() + 1)) * 1024.0 / 1e6;
+  }
+  return 0;
+}
+
+void ResetPeakResident() { std::ofstream("/proc/self/clear_refs") << "5"; }
+
+struct Resident {
+  double peak;   // the most resident at once while the work ran
+  double after;  // what stays resident once it is done
+};
+
+// The memory that `work` takes, above what was resident before it. The kernel keeps its
+// high-water mark up to date only now and then, so the resident size is also sampled every
+// few milliseconds; the larger of the two counts.
+Resident ResidentDuring(const std::function<void()>& work) {
+  malloc_trim(0);
+  const double before = ResidentMegabytes("VmRSS");
+  ResetPeakResident();
+  std::atomic<bool> done{false};
+  double sampled = before;
+  std::thread sampler([&] {
+    while (!done) {
+      sampled = std::max(sampled, ResidentMegabytes("VmRSS"));
+      std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+  });
+  work();
+  done = true;
+  sampler.join();
+  return {std::max(sampled, ResidentMegabytes("VmHWM")) - before, ResidentMegabytes("VmRSS") - before};
+}
+
+// A press of Command2 that lists 8 MiB of free space (one "Byte: &HFF " line a byte, about
+// 109 MB of text) into Text4, until the whole listing is in the box. Reports the most memory
+// resident at once during the press above what was resident before it, also as a multiple
+// of the listing's size: every copy of the listing that the road holds at once counts.
+void BM_ListAndShowEightMegabytesInText4(benchmark::State& state) {
+  test::FixtureRom fixture = test::FixtureRom::Sapphire();
+  const std::string path = fixture.path();
+  Resident taken{};
+  double listing = 0;
+  for (auto _ : state) {
+    test::ScriptedDialogs dialogs;
+    QtShell shell(dialogs);
+    shell.ShowWindow(WindowName::Form1);
+    dialogs.openFileAnswers.push_back(path);
+    shell.Run([&] { OpenRom(shell.form1(), shell.rom(), shell.dialogs()); });
+    Form1Window& window = shell.mainWindow();
+    auto* text4 = window.findChild<LinedTextBoxWidget*>("Text4");
+    window.findChild<QLineEdit*>("Text3")->setText("&H800000");
+    shell.form1().Text3.text = "&H800000";
+    QApplication::processEvents();
+    taken = ResidentDuring([&] {
+      window.findChild<QPushButton*>("Command2")->click();
+      text4->FinishFilling();
+      QApplication::processEvents();
+    });
+    listing = static_cast<double>(shell.form1().Text4.text.size()) / 1e6;
+  }
+  state.counters["listing_MB"] = listing;
+  state.counters["peak_MB"] = taken.peak;
+  state.counters["peak_per_listing"] = taken.peak / listing;
+  state.counters["resident_after_MB"] = taken.after;  // the listing in the record and in Text4's document
+}
+BENCHMARK(BM_ListAndShowEightMegabytesInText4)->Unit(benchmark::kSecond)->Iterations(1);
 
 }  // namespace
 }  // namespace tessarine

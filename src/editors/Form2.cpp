@@ -38,7 +38,7 @@ constexpr Ball kBalls[kBallCount] = {{"Ball 1", &Form2::Combo1, &Form2::Text1, &
 bool SideBySide(const StarterOffsets& balls) { return balls[1] == balls[0] + 2 && balls[2] == balls[1] + 2; }
 
 void Choose(Form2& form, const Ball& ball, int index) {
-  (form.*ball.list).Show(index);
+  if (!(form.*ball.list).Show(index)) return;
   const std::string text = ToHexText(index);
   (form.*ball.read).text = text;
   (form.*ball.save).text = text;
@@ -97,7 +97,7 @@ void LoadForm2(Form2& form, const Form1& main, RomImage& rom, Dialogs& dialogs) 
     (form.*ball.read).text = ToHexText(starters[i]);
     (form.*ball.save).text = (form.*ball.read).text;
     const std::int32_t row = ParseLenient((form.*ball.read).text);
-    if (row >= 0 && row < kSpeciesCount) {
+    if (IsSpeciesNumber(row)) {
       Choose(form, ball, row);
       continue;
     }

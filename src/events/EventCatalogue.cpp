@@ -4,6 +4,7 @@
 
 #include "forms/Form1.h"
 #include "rom/GameProfile.h"
+#include "rom/HexField.h"
 
 namespace tessarine {
 namespace {
@@ -53,6 +54,11 @@ const EventEntry* FindEvent(std::string_view family, int index) {
   const auto events = EventCatalogue(family);
   if (index < 0 || static_cast<std::size_t>(index) >= events.size()) return nullptr;
   return &events[static_cast<std::size_t>(index)];
+}
+
+const EventWordLayout* SelectedWordLayout(const Form1& form) {
+  const EventEntry* event = FindEvent(form.cowmoo, ParseLenient(form.whee));
+  return event != nullptr ? event->layout : nullptr;
 }
 
 }  // namespace tessarine

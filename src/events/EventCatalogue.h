@@ -42,4 +42,8 @@ std::vector<std::string> EventEntryTexts(std::string_view family);
 // The event of the family at a list index, or none.
 const EventEntry* FindEvent(std::string_view family, int index);
 
+// The word layout of the event selected in the main window (whee, in the family cowmoo);
+// none for an event with no words.
+const EventWordLayout* SelectedWordLayout(const Form1& form);
+
 }  // namespace tessarine

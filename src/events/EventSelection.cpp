@@ -17,14 +17,14 @@ void ResetEventFields(Form1& form) {
   form.hoobla.text = "&H0000";
   form.Text2.text = "&H0000";
   form.Text1.text = "&H0000";
+  form.wordsToSave.state = WordsToSave::State::NotLoaded;  // the empty words are no species of any event
 }
 
 void SelectEvent(Form1& form, RomImage& rom, Dialogs& dialogs, int index) {
+  const EventEntry* event = FindEvent(form.cowmoo, index);
+  if (event == nullptr) return;  // no event of the open ROM's list: nothing to select
   form.whee = std::to_string(index);
   ResetEventFields(form);
-  form.speciesMissing.clear();  // whatever the last event's words held, this event's load decides
-  const EventEntry* event = FindEvent(form.cowmoo, index);
-  if (event == nullptr) return;
   form.personOffset = form.*(event->personField);
   form.eventFieldsMatchRom = true;
   if (form.cowmoo == kFamilyRs) {
@@ -42,22 +42,19 @@ void SelectSpecies(Form1& form, int index) {
   form.Text2.text = text;
   form.hoobla.text = text;
   form.hoobla2.text = text;
-  form.speciesMissing.clear();
+  form.wordsToSave = {};
 }
 
 void SetCombo1Selection(Form1& form, int index) {
-  form.Combo1.Show(index);
-  SelectSpecies(form, index);
+  if (form.Combo1.Show(index)) SelectSpecies(form, index);
 }
 
 void SetCombo3Selection(Form1& form, RomImage& rom, Dialogs& dialogs, int index) {
-  form.Combo3.Show(index);
-  SelectEvent(form, rom, dialogs, index);
+  if (form.Combo3.Show(index)) SelectEvent(form, rom, dialogs, index);
 }
 
 void SetCombo4Selection(Form1& form, RomImage& rom, Dialogs& dialogs, int index) {
-  form.Combo4.Show(index);
-  SelectEvent(form, rom, dialogs, index);
+  if (form.Combo4.Show(index)) SelectEvent(form, rom, dialogs, index);
 }
 
 }  // namespace tessarine

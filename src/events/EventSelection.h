@@ -16,7 +16,8 @@ void SelectEvent(Form1& form, RomImage& rom, Dialogs& dialogs, int index);
 // A species was chosen in Combo1: its number goes into all four word fields.
 void SelectSpecies(Form1& form, int index);
 
-// Setters that run the control's action, as picking a row does.
+// Setters that run the control's action, as picking a row does. An index that names no row
+// of the list changes nothing and runs nothing (ComboBox::Show).
 void SetCombo1Selection(Form1& form, int index);                                 // runs SelectSpecies
 void SetCombo3Selection(Form1& form, RomImage& rom, Dialogs& dialogs, int index);  // runs SelectEvent
 void SetCombo4Selection(Form1& form, RomImage& rom, Dialogs& dialogs, int index);  // runs SelectEvent

@@ -1,10 +1,12 @@
 #include "events/EventWords.h"
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
 #include "events/EventCatalogue.h"
 #include "events/EventSelection.h"
+#include "events/SaveRule.h"
 #include "forms/Dialogs.h"
 #include "forms/Form1.h"
 #include "forms/ListRows.h"
@@ -17,17 +19,12 @@
 namespace tessarine {
 namespace {
 
-const EventWordLayout* SelectedLayout(const Form1& form) {
-  const EventEntry* event = FindEvent(form.cowmoo, ParseLenient(form.whee));
-  return event != nullptr ? event->layout : nullptr;
-}
-
-bool IsSpeciesNumber(std::int16_t word) { return word >= 0 && word < kSpeciesCount; }
-
 // A word of the event's script, by the name of the field that shows it.
 struct EventWord {
   const char* name;
-  RomOffset at;
+  int distance;
+  const TextBox* field;  // what a save writes there
+  RomOffset at = 0;
   std::optional<std::int16_t> found;  // none where the file ends before the word does
 };
 
@@ -35,25 +32,27 @@ struct EventWord {
 std::optional<std::int16_t> WordInFile(RomImage& rom, RomOffset at) {
   const Bytes bytes = rom.ReadBytes(at, 2);
   if (bytes.size() < 2) return std::nullopt;
-  return static_cast<std::int16_t>(bytes[0] | (bytes[1] << 8));
+  return static_cast<std::int16_t>(LittleEndian(bytes));
 }
 
-std::string JoinNames(const std::vector<EventWord>& words) {
-  return words.size() == 1 ? words[0].name : std::string(words[0].name) + " and " + words[1].name;
+std::string JoinNames(const std::vector<const EventWord*>& words) {
+  return words.size() == 1 ? words[0]->name : std::string(words[0]->name) + " and " + words[1]->name;
 }
 
 // What a save has written so far, for the sentence that ends it.
-std::string WhatWasSaved(const std::vector<EventWord>& saved) {
+std::string WhatWasSaved(const std::vector<const EventWord*>& saved) {
   if (saved.empty()) return "The person record was saved.";
-  return "The person record and the " + JoinNames(saved) + " word were saved.";
+  return "The person record and the " + JoinNames(saved) + (saved.size() == 1 ? " word were" : " words were") +
+         " saved.";
 }
 
-std::string LeftAloneMessage(const std::vector<EventWord>& leftAlone, const std::vector<EventWord>& saved) {
+std::string LeftAloneMessage(const std::vector<const EventWord*>& leftAlone,
+                             const std::vector<const EventWord*>& saved) {
   const bool one = leftAlone.size() == 1;
   std::string places;
-  for (const EventWord& word : leftAlone) {
+  for (const EventWord* word : leftAlone) {
     if (!places.empty()) places += " and ";
-    places += "at " + ToHexText(word.at) + " stands " + (word.found ? ToHexText(*word.found) : "the end of the ROM");
+    places += "at " + ToHexText(word->at) + " stands " + (word->found ? ToHexText(*word->found) : "the end of the ROM");
   }
   return "The " + JoinNames(leftAlone) + (one ? " word was left as it is: " : " words were left as they are: ") +
          places + (one ? ", which is no species number" : ", which are no species numbers") + " (&H0 to " +
@@ -68,8 +67,7 @@ void LoadEventWords(Form1& form, RomImage& rom, Dialogs& dialogs) {
     dialogs.Message("Load not supported");
     return;
   }
-  form.speciesMissing.clear();
-  if (const EventWordLayout* layout = SelectedLayout(form)) {
+  if (const EventWordLayout* layout = SelectedWordLayout(form)) {
     if (layout->scriptSource != ScriptSource::PersonRecord) {
       if (const auto profile = FindGameProfile(form.headtxt)) {
         const std::string_view constant =
@@ -88,24 +86,19 @@ void LoadEventWords(Form1& form, RomImage& rom, Dialogs& dialogs) {
     form.hoobla.visible = form.hoobla2.visible = layout->showsHoobla;
     (layout->showsHoobla ? form.hoobla : form.Text1).text = ToHexText(first);
     (layout->showsHoobla ? form.hoobla2 : form.Text2).text = ToHexText(second);
+    // Where hoobla and hoobla2 are on show they hold the words as read; elsewhere they hold
+    // what the species list gives them.
+    if (layout->showsHoobla) form.wordsToSave = {};
 
     const std::int16_t followed = layout->listFollowsSecond ? second : first;
-    if (followed >= 0 && static_cast<std::size_t>(followed) < form.Combo1.rows.size()) {
+    if (IsSpeciesNumber(followed)) {
       SetCombo1Selection(form, followed);
     } else if (!layout->showsHoobla) {
-      form.speciesMissing = std::string(layout->listFollowsSecond ? "Cry" : "Pokemon") + " word at " +
-                            ToHexText(layout->listFollowsSecond ? secondAt : firstAt) + " holds " +
-                            ToHexText(followed);
+      form.wordsToSave = {WordsToSave::State::NoSpecies, layout->listFollowsSecond ? "Cry" : "Pokemon",
+                          layout->listFollowsSecond ? secondAt : firstAt, followed};
     }
   }
   if (form.cowmoo == kFamilyRs) form.flagtxt.text = ToHexText(form.personFlag);
-}
-
-void RequireSpeciesToSave(const Form1& form) {
-  if (form.speciesMissing.empty()) return;
-  throw Failure("The " + form.speciesMissing +
-                ", which is no species number, so the Pokemon list shows none and there is no species to save. "
-                "Pick one in the Pokemon list first. Nothing was saved.");
 }
 
 void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs) {
@@ -113,30 +106,34 @@ void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs) {
     dialogs.Message("Save not supported");
     return;
   }
-  const EventWordLayout* layout = SelectedLayout(form);
+  const EventWordLayout* layout = SelectedWordLayout(form);
   if (layout == nullptr) return;
 
-  const RomOffset script = ParseOffset(form.scriptpointxt.text, "Script");
-  const std::pair<EventWord, const TextBox*> words[] = {
-      {{"Pokemon", OffsetPlus(script, layout->firstWordAt)}, &form.hoobla},
-      {{"Cry", OffsetPlus(script, layout->secondWordAt)}, &form.hoobla2},
-  };
-  std::vector<EventWord> saved;
-  std::vector<EventWord> leftAlone;
-  for (auto [word, field] : words) {
-    std::int16_t value;
-    try {
-      value = ParseWord(field->text, word.name);
-    } catch (const Failure& failure) {
-      throw failure.Then(WhatWasSaved(saved) + " The " + word.name + " word was not.");
+  EventWord words[] = {{"Pokemon", layout->firstWordAt, &form.hoobla}, {"Cry", layout->secondWordAt, &form.hoobla2}};
+  std::vector<const EventWord*> saved;
+  std::vector<const EventWord*> leftAlone;
+  try {
+    const RomOffset script = ParseOffset(form.scriptpointxt.text, "Script");
+    for (EventWord& word : words) {
+      word.at = OffsetPlus(script, word.distance);
+      const std::int16_t value = SpeciesToWrite(word.field->text, word.name);
+      word.found = WordInFile(rom, word.at);
+      if (MayOverwrite(word.found)) {
+        rom.WriteWord(word.at, value);
+        saved.push_back(&word);
+      } else {
+        leftAlone.push_back(&word);
+      }
     }
-    word.found = WordInFile(rom, word.at);
-    if (word.found && IsSpeciesNumber(*word.found)) {
-      rom.WriteWord(word.at, value);
-      saved.push_back(word);
-    } else {
-      leftAlone.push_back(word);
+  } catch (const Failure& failure) {
+    // The person record is written before the words; the sentence says so, and which words
+    // were not written.
+    std::vector<const EventWord*> notSaved;
+    for (const EventWord& word : words) {
+      if (std::find(saved.begin(), saved.end(), &word) == saved.end()) notSaved.push_back(&word);
     }
+    throw failure.Then(WhatWasSaved(saved) + " The " + JoinNames(notSaved) +
+                       (notSaved.size() == 1 ? " word was not." : " words were not."));
   }
   if (!leftAlone.empty()) dialogs.Message(LeftAloneMessage(leftAlone, saved));
 }

@@ -14,14 +14,11 @@ inline constexpr const char* kFamilyE = "e";
 // Sapphire it then puts back the flag of the last person load or save.
 void LoadEventWords(Form1& form, RomImage& rom, Dialogs& dialogs);
 
-// Writes hoobla and hoobla2 as the event's two words. A word is written only where the
-// ROM holds a species number at that place now; any other value there is part of the
-// script (a cry kept behind the expected place leaves opcodes there), so it is left as it
-// is and the person is told after the save.
+// Writes hoobla and hoobla2 as the event's two words, after SavePerson has written the
+// record, by the rule of events/SaveRule.h. A word is written only where the ROM holds a
+// species number at that place now; any other value there is part of the script (a cry
+// kept behind the expected place leaves opcodes there), so it is left as it is and the
+// person is told after the save. A Failure here says what the save wrote before it.
 void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs);
-
-// Refuses a save (throws Failure) while the words to save hold no species: after a load
-// that found none in the word the list follows, until a species is picked.
-void RequireSpeciesToSave(const Form1& form);
 
 }  // namespace tessarine

@@ -1,8 +1,11 @@
 #include "events/PersonRecord.h"
 
+#include <algorithm>
+#include <span>
 #include <type_traits>
 
 #include "events/EventWords.h"
+#include "events/SaveRule.h"
 #include "forms/Form1.h"
 #include "rom/Failure.h"
 #include "rom/GbaPointer.h"
@@ -19,11 +22,10 @@ class FieldReader {
 
   template <typename T>
   void operator()(T& field) {
-    std::uint32_t value = 0;
-    for (std::size_t i = 0; i < sizeof(T); ++i, ++at_) {
-      if (at_ < bytes_.size()) value |= std::uint32_t{bytes_[at_]} << (8 * i);
-    }
-    field = static_cast<T>(value);
+    const std::size_t from = std::min(at_, bytes_.size());
+    const std::size_t count = std::min(sizeof(T), bytes_.size() - from);
+    field = static_cast<T>(LittleEndian(std::span(bytes_).subspan(from, count)));
+    at_ += sizeof(T);
   }
 
  private:
@@ -38,8 +40,9 @@ class FieldWriter {
 
   template <typename T>
   void operator()(T field) {
-    const auto value = static_cast<std::uint32_t>(static_cast<std::make_unsigned_t<T>>(field));
-    for (std::size_t i = 0; i < sizeof(T); ++i) bytes_.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
+    std::uint8_t bytes[sizeof(T)];
+    PutLittleEndian(static_cast<std::make_unsigned_t<T>>(field), bytes);
+    bytes_.insert(bytes_.end(), std::begin(bytes), std::end(bytes));
   }
 
  private:
@@ -118,20 +121,11 @@ void LoadPerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
 }
 
 void SavePerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
-  if (!form.eventFieldsMatchRom) {
-    throw Failure(
-        "Pick an event in the list before saving: the event fields were not loaded from the ROM now open, "
-        "and a save would write at offsets that may not belong to it. Nothing was saved.");
-  }
-  RequireSpeciesToSave(form);
+  if (const auto refusal = SaveRefusal(form)) throw Failure(*refusal + " Nothing was saved.");
   PersonRecord record = ReadPersonRecord(form, rom);
-  try {
-    record.sprite = ParseWord(form.spritetxt.text, "Sprite");
-    record.flag = ParseWord(form.flagtxt.text, "Flag");
-    record.behaviour = ParseByte(form.behavtxt, "Behavior");
-  } catch (const Failure& failure) {
-    throw failure.Then("Nothing was saved.");
-  }
+  record.sprite = ParseWord(form.spritetxt.text, "Sprite");  // the rule has parsed all three
+  record.flag = ParseWord(form.flagtxt.text, "Flag");
+  record.behaviour = ParseByte(form.behavtxt, "Behavior");
   rom.Seek(ParseOffset(form.personOffset, "Person offset"));
   rom.WriteBytes(record.ToBytes());
   form.personFlag = record.flag;
@@ -155,8 +149,7 @@ void SetBehavtxt(Form1& form, const std::string& text) {
 }
 
 void SetCombo2Selection(Form1& form, int index) {
-  form.Combo2.Show(index);
-  SelectMovement(form, index);
+  if (form.Combo2.Show(index)) SelectMovement(form, index);
 }
 
 }  // namespace tessarine

@@ -51,8 +51,7 @@ void LoadForm8(Form8& form, std::string_view headtxt, Dialogs& dialogs) {
 }
 
 void SelectLocation(Form8& form, RomImage& rom, std::string_view headtxt, LocationListName list, int index) {
-  if (index < 0 || index >= kFlyRecordCount) return;  // no entry of either list
-  (list == LocationListName::kanto ? form.kanto : form.hoenn).Show(index);
+  if (!(list == LocationListName::kanto ? form.kanto : form.hoenn).Show(index)) return;  // no such entry
   form.mapnumber = std::to_string(index);
   PressLoadbutton(form, rom, headtxt);
 }

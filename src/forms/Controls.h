@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tessarine {
@@ -48,10 +50,29 @@ struct ComboBox {
     selected = -1;
     text.clear();
   }
-  // Shows row `index` (which must exist) as the selection.
-  void Show(int index) {
+  // Shows row `index` as the selection and answers true. An index that names no row
+  // (below 0, or past the last) changes nothing and answers false: there is no row to show
+  // and none to act on, so the setters that run a list's action run it only on true.
+  [[nodiscard]] bool Show(int index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= rows.size()) return false;
     selected = index;
     text = rows[static_cast<std::size_t>(index)];
+    return true;
+  }
+};
+
+// A multi-line box that the program fills and a person may then edit: nothing reads its
+// text back. `puts` counts the texts that the program has put there, so that the view shows
+// each one whole, also one equal to the text before it.
+struct TextArea {
+  std::string text;
+  unsigned puts = 0;
+  bool enabled = true;
+  bool visible = true;
+
+  void Put(std::string next) {
+    text = std::move(next);
+    ++puts;
   }
 };
 

@@ -4,8 +4,24 @@
 #include <string>
 
 #include "forms/Controls.h"
+#include "rom/GbaPointer.h"
 
 namespace tessarine {
+
+// What hoobla and hoobla2, the fields that a save writes into the selected event's two
+// words, hold for that event. The rule of the save (events/SaveRule.h) reads it.
+struct WordsToSave {
+  enum class State {
+    Loaded,     // the event's words as its load read them, or a species picked since
+    NotLoaded,  // emptied by the pick of the event, and no load has read its words since
+    NoSpecies,  // the load found no species number in the word that the Pokemon list follows
+  };
+  State state = State::Loaded;
+  // With NoSpecies: that word, by the name of its field, where it lies and what it holds.
+  std::string word;
+  RomOffset at = 0;
+  std::int16_t holds = 0;
+};
 
 // The main window's record: its controls and the state of the open ROM that every tool
 // reads. The window shows these fields and nothing else. The rows of the event lists and
@@ -68,12 +84,10 @@ struct Form1 {
   std::string scripteh = "Label20";
   std::int16_t personFlag = 0;  // the flag that the last person load read or save wrote
 
-  // Guards of the save. The event fields describe the ROM opened before until an event is
-  // picked again. And where the last load found no species number in the word that the
-  // species list follows, the words to save hold none until one is picked: then this
-  // says which word held what, for the message that refuses the save.
+  // What a save may rely on (events/SaveRule.h): the event fields describe the ROM opened
+  // before until an event is picked again, and the word fields what WordsToSave says.
   bool eventFieldsMatchRom = true;
-  std::string speciesMissing;
+  WordsToSave wordsToSave;
 
   // Script lister.
   Label Label18{"Offset: "};
@@ -81,7 +95,7 @@ struct Form1 {
   Button Command2{.caption = "Load", .enabled = false};
   CheckBox Check1{"Braille"};
   Button Command8{"Save"};  // has no action
-  TextBox Text4;
+  TextArea Text4;           // the listing; the record keeps the one copy of it in the core
 };
 
 }  // namespace tessarine

@@ -10,6 +10,9 @@ namespace tessarine {
 inline constexpr int kSpeciesCount = 412;
 inline constexpr int kSpeciesNameLength = 11;
 
+// A species number: 0 to 411, a row of the species list. The one bound of a species.
+constexpr bool IsSpeciesNumber(int value) { return value >= 0 && value < kSpeciesCount; }
+
 // The item records: 347 of 44 bytes each, back to back from itemRecords, numbered from 0.
 // The first 14 bytes of a record are the item's name in game text.
 inline constexpr int kItemCount = 347;

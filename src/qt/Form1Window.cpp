@@ -382,11 +382,11 @@ void Form1Window::Refresh() {
   Check1_->setText(Q(f.Check1.caption));
   Check1_->setChecked(f.Check1.checked);
   Sync(Command8_, f.Command8);
-  // Text4 shows what the program last put there; what a person types there stays in the
-  // box, since nothing reads it back.
-  if (shownText4_ != f.Text4.text) {
-    Text4_->ShowPlainText(Q(f.Text4.text));
-    shownText4_ = f.Text4.text;
+  // Text4 takes each text that the program puts there whole, also one equal to the text
+  // before; what a person types there stays until then, since nothing reads it back.
+  if (shownText4Puts_ != f.Text4.puts) {
+    Text4_->ShowPlainText(f.Text4.text);
+    shownText4Puts_ = f.Text4.puts;
   }
 }
 

@@ -107,7 +107,7 @@ class Form1Window : public QWidget {
 
   // What the widgets were last given, so that a refresh touches only what changed.
   std::vector<std::string> shownCombo1_, shownCombo2_, shownCombo3_, shownCombo4_;
-  std::string shownText4_;
+  unsigned shownText4Puts_ = 0;
 };
 
 }  // namespace tessarine

@@ -71,33 +71,39 @@ namespace {
 
 // About 5,000 lines of a listing: a part takes some 15 ms to add, short enough for the box
 // to answer a key or a scroll between two parts.
-constexpr qsizetype kPartSize = qsizetype{1} << 16;
+constexpr std::size_t kPartSize = std::size_t{1} << 16;
 
 // Where the part of `text` that starts at `from` ends: behind a line break, so that no
-// CR LF is torn apart, or at the end of the text.
-qsizetype PartEnd(const QString& text, qsizetype from) {
+// CR LF and no character of several bytes is torn apart, or at the end of the text.
+std::size_t PartEnd(const std::string& text, std::size_t from) {
   if (text.size() - from <= kPartSize) return text.size();
-  const qsizetype lineEnd = text.indexOf(QLatin1Char('\n'), from + kPartSize);
-  return lineEnd < 0 ? text.size() : lineEnd + 1;
+  const std::size_t lineEnd = text.find('\n', from + kPartSize);
+  return lineEnd == std::string::npos ? text.size() : lineEnd + 1;
+}
+
+QString Part(const std::string& text, std::size_t from, std::size_t to) {
+  return QString::fromUtf8(text.data() + from, static_cast<qsizetype>(to - from));
 }
 
 }  // namespace
 
-void LinedTextBoxWidget::ShowPlainText(const QString& text) {
+void LinedTextBoxWidget::ShowPlainText(const std::string& text) {
   fillTimer_->stop();
+  source_ = nullptr;
   auto* next = new QTextDocument(this);
   next->setDefaultFont(font());
   next->setUndoRedoEnabled(false);  // until it is complete: the filling is no edit to undo
   next->setDocumentLayout(new QPlainTextDocumentLayout(next));
   fillFrom_ = PartEnd(text, 0);
-  QTextCursor(next).insertText(text.left(fillFrom_));
-  filling_ = fillFrom_ < text.size() ? text : QString();
+  QTextCursor(next).insertText(Part(text, 0, fillFrom_));
   // The box deletes a document of its own making when it takes another; one of ours, we do.
   const QPointer<QTextDocument> previous = document();
   setDocument(next);
   if (previous && previous->parent() == this) delete previous;
   gutter_->update();  // also while the box's signals are blocked
-  if (Filling()) {
+  if (fillFrom_ < text.size()) {
+    source_ = &text;
+    sourceSize_ = text.size();
     fillTimer_->start();
   } else {
     CompleteFilling();
@@ -105,13 +111,18 @@ void LinedTextBoxWidget::ShowPlainText(const QString& text) {
 }
 
 void LinedTextBoxWidget::AppendPart() {
-  const qsizetype to = PartEnd(filling_, fillFrom_);
+  const std::string& text = *source_;
+  if (text.size() != sourceSize_) {  // the text changed under the box; the next ShowPlainText brings it
+    CompleteFilling();
+    return;
+  }
+  const std::size_t to = PartEnd(text, fillFrom_);
   QTextCursor end(document());
   end.movePosition(QTextCursor::End);
-  end.insertText(filling_.mid(fillFrom_, to - fillFrom_));
+  end.insertText(Part(text, fillFrom_, to));
   fillFrom_ = to;
   gutter_->update();
-  if (!Filling()) CompleteFilling();
+  if (fillFrom_ == text.size()) CompleteFilling();
 }
 
 void LinedTextBoxWidget::FinishFilling() {
@@ -120,7 +131,7 @@ void LinedTextBoxWidget::FinishFilling() {
 
 void LinedTextBoxWidget::CompleteFilling() {
   fillTimer_->stop();
-  filling_.clear();
+  source_ = nullptr;
   fillFrom_ = 0;
   document()->setUndoRedoEnabled(true);
   document()->setModified(false);

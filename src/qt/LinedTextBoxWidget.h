@@ -3,8 +3,10 @@
 #include <QPlainTextEdit>
 #include <QTimer>
 
+#include <cstddef>
 #include <functional>
 #include <optional>
+#include <string>
 
 #include "shell/modLinedTextBox.h"
 
@@ -32,13 +34,17 @@ class LinedTextBoxWidget : public QPlainTextEdit {
   // nothing, not even NumDigits. `numDigits` 0 means 4.
   void EnableLineNumbers(bool enable, int numDigits);
 
-  // Replaces the text as setPlainText does, but shows its start at once and adds the rest a
-  // part at a time while the program waits for input, so that a listing of a million lines
-  // is on screen at once and the box answers scrolling and typing while it fills. A new text
-  // stops the filling of the one before.
-  void ShowPlainText(const QString& text);
+  // Replaces the text, UTF-8, as setPlainText does, but shows its start at once and adds the
+  // rest a part at a time while the program waits for input, so that a listing of a million
+  // lines is on screen at once and the box answers scrolling and typing while it fills. The
+  // box reads the parts from `text` itself, so that no copy of a long text is made: `text`
+  // must stay as it is while the box fills, or until the next ShowPlainText, which stops the
+  // filling of the text before. (The main window hands it the record's Text4, which only an
+  // action changes; each action ends with a refresh that hands it over again.)
+  void ShowPlainText(const std::string& text);
+  void ShowPlainText(std::string&& text) = delete;  // a temporary would be gone before the parts are read
   // True while parts of the last text are still to come.
-  bool Filling() const { return fillFrom_ < filling_.size(); }
+  bool Filling() const { return source_ != nullptr; }
   // Adds what is still to come at once.
   void FinishFilling();
 
@@ -75,8 +81,9 @@ class LinedTextBoxWidget : public QPlainTextEdit {
   int trayWidth_ = 0;
   std::optional<GutterPaint> lastPaint_;
   int paints_ = 0;
-  QString filling_;        // the text being shown, while parts of it are still to come
-  qsizetype fillFrom_ = 0;  // where the next part starts
+  const std::string* source_ = nullptr;  // the text being shown, while parts of it are still to come
+  std::size_t sourceSize_ = 0;
+  std::size_t fillFrom_ = 0;             // where the next part starts
   QTimer* fillTimer_;
 };
 

@@ -2,6 +2,11 @@
 
 #include <QApplication>
 
+#include <new>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
 #include "qt/Form1Window.h"
 #include "qt/Form2Window.h"
 #include "qt/Form2Window.h"
@@ -37,17 +42,39 @@ QtShell::~QtShell() {
   for (View& view : views_) delete view.widget.data();
 }
 
-void QtShell::Run(const std::function<void()>& action) {
-  if (running_) {  // an action that a widget's change starts inside another one
-    action();
-    return;
-  }
-  running_ = true;
+namespace {
+
+constexpr const char* kNoMemory =
+    "The action needed more memory than the system could give, so it stopped there. Whatever it wrote to the "
+    "ROM before stays written.";
+
+// Runs an action to its end, or to the sentence that ends it. Nothing an action throws gets
+// past this: an exception must never cross Qt's event loop.
+std::optional<std::string> SentenceThatEnds(const std::function<void()>& action) {
   try {
     action();
   } catch (const Failure& failure) {
-    dialogs_.Message(failure.what(), MessageButtons::Ok, kDefaultTitle);
+    return failure.what();
+  } catch (const std::bad_alloc&) {
+    return kNoMemory;
+  } catch (const std::length_error&) {
+    return kNoMemory;
+  } catch (...) {
+    return "The action stopped on an error of the program. Whatever it wrote to the ROM before stays written.";
   }
+  return std::nullopt;
+}
+
+}  // namespace
+
+void QtShell::Run(const std::function<void()>& action) {
+  // An action can start inside another one: a click while a progress dialog or a message box
+  // of the first keeps the events running. Each ends here with its own sentence; the windows
+  // show their records afresh when the outermost one ends.
+  const bool outermost = !running_;
+  running_ = true;
+  if (const auto sentence = SentenceThatEnds(action)) dialogs_.Message(*sentence, MessageButtons::Ok, kDefaultTitle);
+  if (!outermost) return;
   running_ = false;
   RefreshAll();
 }

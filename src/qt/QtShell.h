@@ -16,8 +16,9 @@ namespace tessarine {
 class Form1Window;
 
 // The running program: its Session (the one RomImage and the records) and every window.
-// Each action of a person starts in Run, the one place where a Failure is caught and its
-// sentence shown; after the action every open window shows its record afresh.
+// Each action of a person starts in Run, the one place where a Failure (or anything else
+// thrown) is caught and its sentence shown; after the action every open window shows its
+// record afresh.
 //
 // The main window lives as long as the shell. Every other window is one instance, made when
 // it is first shown (its record loads afresh then, LoadWindow) and dropped when it closes.

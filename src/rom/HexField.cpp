@@ -9,13 +9,6 @@ namespace {
 
 bool IsBlank(char c) { return c == ' '; }
 
-int HexValue(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  return -1;
-}
-
 bool IsHexPrefix(std::string_view s) {
   return s.size() >= 2 && s[0] == '&' && (s[1] == 'H' || s[1] == 'h');
 }
@@ -29,8 +22,8 @@ struct HexRun {
 
 HexRun ReadHexRun(std::string_view s) {
   HexRun run;
-  while (run.length < s.size() && HexValue(s[run.length]) >= 0) {
-    const int digit = HexValue(s[run.length++]);
+  while (run.length < s.size() && HexDigitValue(static_cast<unsigned char>(s[run.length])) >= 0) {
+    const int digit = HexDigitValue(static_cast<unsigned char>(s[run.length++]));
     if (run.significant > 0 || digit != 0) ++run.significant;
     run.value = (run.value << 4) | static_cast<std::uint32_t>(digit);
   }
@@ -118,14 +111,19 @@ std::int64_t ParseOrFail(std::string_view text, std::string_view field, const Wi
 
 }  // namespace
 
-std::string HexDigits(std::uint32_t value, int minDigits) {
+std::string_view WriteHexDigits(std::uint32_t value, HexDigitBuffer& buffer, int minDigits) {
   static constexpr char kDigits[] = "0123456789ABCDEF";
-  std::string reversed;
+  std::size_t first = buffer.size();
   do {
-    reversed.push_back(kDigits[value & 0xF]);
+    buffer[--first] = kDigits[value & 0xF];
     value >>= 4;
-  } while (value != 0 || static_cast<int>(reversed.size()) < minDigits);
-  return std::string(reversed.rbegin(), reversed.rend());
+  } while (first > 0 && (value != 0 || static_cast<int>(buffer.size() - first) < minDigits));
+  return std::string_view(buffer.data() + first, buffer.size() - first);
+}
+
+std::string HexDigits(std::uint32_t value, int minDigits) {
+  HexDigitBuffer buffer;
+  return std::string(WriteHexDigits(value, buffer, minDigits));
 }
 
 std::string ToHexText(std::uint8_t byte) { return "&H" + HexDigits(byte); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,8 +19,25 @@ std::string ToHexText(std::int32_t value);
 template <typename T>
 std::string ToHexText(T) = delete;  // no silent widening from other integer types
 
-// Upper-case hexadecimal digits with no prefix, padded with zeros to `minDigits`:
-// HexDigits(0x1A, 3) is "01A". The digits of ToHexText are HexDigits(value).
+// The one reader and the one writer of hexadecimal digits.
+//
+// The value of a hexadecimal digit, either case; -1 for any other character.
+constexpr int HexDigitValue(char32_t c) {
+  if (c >= U'0' && c <= U'9') return static_cast<int>(c - U'0');
+  if (c >= U'A' && c <= U'F') return static_cast<int>(c - U'A') + 10;
+  if (c >= U'a' && c <= U'f') return static_cast<int>(c - U'a') + 10;
+  return -1;
+}
+
+// Room for the digits of any 32-bit value.
+using HexDigitBuffer = std::array<char, 8>;
+
+// Upper-case hexadecimal digits with no prefix, padded with zeros to `minDigits` (at most 8),
+// written into the end of `buffer`: WriteHexDigits(0x1A, buffer, 3) is "01A". For long texts
+// built a piece at a time, with nothing allocated.
+std::string_view WriteHexDigits(std::uint32_t value, HexDigitBuffer& buffer, int minDigits = 1);
+
+// The same digits as a string. The digits of ToHexText are HexDigits(value).
 std::string HexDigits(std::uint32_t value, int minDigits = 1);
 
 // Strict parses. Each throws Failure for a text that is no number or a number out of

@@ -127,10 +127,7 @@ Bytes RomImage::ReadBytes(std::size_t count) {
 }
 
 std::uint32_t RomImage::ReadLittleEndian(int width) {
-  const Bytes bytes = ReadBytes(static_cast<std::size_t>(width));
-  std::uint32_t value = 0;
-  for (std::size_t i = 0; i < bytes.size(); ++i) value |= std::uint32_t{bytes[i]} << (8 * i);
-  return value;
+  return LittleEndian(ReadBytes(static_cast<std::size_t>(width)));  // missing bytes count as 0
 }
 
 std::uint8_t RomImage::ReadByte() { return static_cast<std::uint8_t>(ReadLittleEndian(1)); }
@@ -163,8 +160,9 @@ void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
 
 void RomImage::WriteLittleEndian(std::uint32_t value, int width) {
   std::uint8_t bytes[4];
-  for (int i = 0; i < width; ++i) bytes[i] = static_cast<std::uint8_t>(value >> (8 * i));
-  WriteBytes(std::span<const std::uint8_t>(bytes, static_cast<std::size_t>(width)));
+  const std::span<std::uint8_t> used(bytes, static_cast<std::size_t>(width));
+  PutLittleEndian(value, used);
+  WriteBytes(used);
 }
 
 void RomImage::WriteByte(std::uint8_t value) { WriteLittleEndian(value, 1); }

@@ -37,17 +37,17 @@ void LoadForm5Lists(Form5& form, Form1& main, RomImage& rom) {
 }
 
 void SetCombo1Selection(Form5& form, int index) {
-  form.Combo1.Show(index);
+  if (!form.Combo1.Show(index)) return;
   form.pkmntxt.text = ToHexText(index);
 }
 
 void SetCombo3Selection(Form5& form, int index) {
-  form.Combo3.Show(index);
+  if (!form.Combo3.Show(index)) return;
   form.Text1.text = ToHexText(index);
 }
 
 void SetCombo2Selection(Form5& form, int index) {
-  form.Combo2.Show(index);
+  if (!form.Combo2.Show(index)) return;
   form.Text2.text = ToHexText(index);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <span>
 #include <utility>
 
 #include "rom/Failure.h"
@@ -125,22 +126,16 @@ class ByteWindow {
 
 // ---- Writing ------------------------------------------------------------------------------
 
-int HexDigitCount(std::uint32_t value) {
-  int count = 0;
-  do {
-    ++count;
-    value >>= 4;
-  } while (value != 0);
-  return count;
-}
-
 // A listing is made in two passes over the same bytes: the first measures the text, the
 // second writes it into a string made once at its final size. So the text is never copied
 // while it grows, and the memory it takes is the text and one block of the ROM.
 class MeasuringSink {
  public:
   void Put(std::string_view text) { size_ += text.size(); }
-  void PutHex(std::uint32_t value) { size_ += static_cast<std::size_t>(HexDigitCount(value)); }
+  void PutHex(std::uint32_t value) {
+    HexDigitBuffer digits;
+    size_ += WriteHexDigits(value, digits).size();
+  }
   std::size_t size() const { return size_; }
 
  private:
@@ -153,14 +148,8 @@ class TextSink {
   void Put(std::string_view text) { text_.append(text); }
   // Upper-case hexadecimal, no prefix, no leading zeros.
   void PutHex(std::uint32_t value) {
-    static constexpr char kDigits[] = "0123456789ABCDEF";
-    char digits[8];
-    char* first = std::end(digits);
-    do {
-      *--first = kDigits[value & 0xF];
-      value >>= 4;
-    } while (value != 0);
-    text_.append(first, std::end(digits));
+    HexDigitBuffer digits;
+    text_.append(WriteHexDigits(value, digits));
   }
   std::string Take() { return std::move(text_); }
 
@@ -181,9 +170,7 @@ void PutCommandLine(Sink& sink, const Command& command, const std::uint8_t* byte
     for (const OperandPiece& piece : command.operands) {
       if (piece.width == 0) break;
       sink.Put(piece.literal);
-      std::uint32_t value = bytes[piece.at];
-      if (piece.width == 2) value |= std::uint32_t{bytes[piece.at + 1]} << 8;
-      sink.PutHex(value);
+      sink.PutHex(LittleEndian(std::span(bytes + piece.at, piece.width)));
     }
   }
   sink.Put(kLineEnd);
@@ -321,7 +308,7 @@ bool ListIntoText4(Form1& form, RomImage& rom, Dialogs& dialogs, const ListingPr
   std::optional<std::string> listing =
       ListScript(rom, dialogs, form.Text3.text, form.Check1.checked, progress);
   if (!listing) return false;
-  form.Text4.text = std::move(*listing);
+  form.Text4.Put(std::move(*listing));
   return true;
 }
 

@@ -46,23 +46,23 @@ void LoadWildBattleLists(WildBattleForm& form, const std::vector<std::string>& s
 }
 
 void SetCombo1Selection(WildBattleForm& form, int index) {
-  form.Combo1.Show(index);
+  if (!form.Combo1.Show(index)) return;
   form.pkmntxt.text = ToHexText(index);
   form.crytxt.text = ToHexText(index);
 }
 
 void SetCombo2Selection(WildBattleForm& form, int index) {
-  form.Combo2.Show(index);
+  if (!form.Combo2.Show(index)) return;
   form.Text2.text = ToHexText(index);
 }
 
 void SetCombo3Selection(Form3& form, int index) {
-  form.Combo3.Show(index);
+  if (!form.Combo3.Show(index)) return;
   form.Text1.text = ToHexText(index);
 }
 
 void SetCombo3Selection(Form4& form, int index) {
-  form.Combo3.Show(index);
+  if (!form.Combo3.Show(index)) return;
   form.Text14.text = ToHexText(index);
 }
 

@@ -1,5 +1,6 @@
 #include "text/Braille2Text.h"
 
+#include "rom/HexField.h"
 #include "text/TextTokenizer.h"
 
 namespace tessarine {
@@ -38,8 +39,8 @@ std::size_t FindBrailleStop(std::string_view text) {
   // stands in the text, the encoder takes it whole.
   const std::size_t end = text.find("[End]");
   for (std::size_t at = text.find("\\h"); at < end && at + 4 <= text.size(); at = text.find("\\h", at + 1)) {
-    const int high = tokenizer::HexDigitValue(static_cast<unsigned char>(text[at + 2]));
-    const int low = tokenizer::HexDigitValue(static_cast<unsigned char>(text[at + 3]));
+    const int high = HexDigitValue(static_cast<unsigned char>(text[at + 2]));
+    const int low = HexDigitValue(static_cast<unsigned char>(text[at + 3]));
     if (high >= 0 && low >= 0 && IsBrailleStop(static_cast<std::uint8_t>(high * 16 + low))) return at;
   }
   return end;

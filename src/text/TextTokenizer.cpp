@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "rom/HexField.h"
+
 namespace tessarine::tokenizer {
 namespace {
 

@@ -59,14 +59,6 @@ struct TokenSet {
 
 Bytes Tokenize(std::string_view text, const TokenSet& tokens);
 
-// The value of a hexadecimal digit, either case; -1 for any other character.
-constexpr int HexDigitValue(char32_t c) {
-  if (c >= U'0' && c <= U'9') return static_cast<int>(c - U'0');
-  if (c >= U'A' && c <= U'F') return static_cast<int>(c - U'A') + 10;
-  if (c >= U'a' && c <= U'f') return static_cast<int>(c - U'a') + 10;
-  return -1;
-}
-
 // Checks for the tables, meant for static_assert: a mistake in a form list then fails the build.
 
 // Every stage of forms is non-empty and its forms are ASCII, of the stage's length and distinct.

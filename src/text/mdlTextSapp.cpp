@@ -62,7 +62,7 @@ Bytes EncodeGameText(std::string_view text) {
 
 bool IsHexText(std::string_view text) {
   return std::ranges::all_of(text, [](char c) {
-    return tokenizer::HexDigitValue(static_cast<unsigned char>(c)) >= 0;
+    return HexDigitValue(static_cast<unsigned char>(c)) >= 0;
   });
 }
 

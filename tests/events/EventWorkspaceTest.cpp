@@ -4,84 +4,68 @@
 #include "events/EventSelection.h"
 #include "events/EventWords.h"
 #include "events/PersonRecord.h"
-#include "forms/Form1.h"
 #include "rom/HexField.h"
-#include "rom/RomImage.h"
-#include "shell/OpenRom.h"
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
 #include "support/Failures.h"
 #include "support/MainSession.h"
-#include "support/ScriptedDialogs.h"
 
 namespace tessarine {
 namespace {
 
 using test::ByteOracle;
-using test::ByteRange;
-using test::EventFixtureRom;
-using test::FixtureEvent;
-using test::FixtureEvents;
 using test::FixtureRom;
-using test::ScriptedDialogs;
-using ::testing::_;
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-using Ranges = std::vector<ByteRange>;
+using Ranges = std::vector<test::ByteRange>;
+using Written = std::vector<std::pair<std::size_t, Bytes>>;  // each changed run of bytes, and its bytes now
 
 // A session on a fixture ROM of its own, opened as the Open button does.
 struct Session : test::MainSession {
   FixtureRom fixture;
-  explicit Session(FixtureRom rom_) : fixture(std::move(rom_)) { Open(); }
-  void Open() { MainSession::Open(fixture.path()); }
+  explicit Session(FixtureRom rom_) : fixture(std::move(rom_)) { Open(fixture.path()); }
 };
 
-Session Opened(std::string_view code) { return Session(EventFixtureRom(code)); }
+std::string Hex(std::uint32_t value) { return ToHexText(static_cast<std::int32_t>(value)); }
 
-std::string Hex(int value) { return ToHexText(value); }
-std::size_t At(std::uint32_t base, int distance) { return base + static_cast<std::uint32_t>(distance); }
+// What a person sees of an event, in the window's order.
+std::vector<std::string> Fields(const Form1& f) {
+  return {f.spritetxt.text, f.behavtxt,   std::to_string(f.Combo2.selected), f.scriptpointxt.text, f.Text3.text,
+          f.flagtxt.text,   f.whee,       std::to_string(f.Combo1.selected), f.Text1.text,         f.Text2.text,
+          f.hoobla.text,    f.hoobla2.text};
+}
 
-// Every event of every game: the fields after the pick, then a save with a new sprite,
-// movement, flag and species that changes exactly the record's three fields and the words.
+void ExpectWritten(const ByteOracle& oracle, const Written& written) {
+  Ranges ranges;
+  for (const auto& [at, bytes] : written) ranges.push_back({at, bytes.size()});
+  EXPECT_EQ(oracle.Changes(), ranges);
+  const Bytes now = oracle.Now();
+  for (const auto& [at, bytes] : written) EXPECT_EQ(Bytes(now.begin() + at, now.begin() + at + bytes.size()), bytes);
+}
+
+// Every event of every game: the fields after the pick; a save of a new sprite, movement,
+// flag and species that changes exactly the record's three fields and the two words; and a
+// second pick of the event, which reads back what the save wrote.
 TEST(EventWorkspaceTest, EachEventOfEachGameLoadsAndSavesItsOwnBytes) {
   for (const char* code : {"AXVE", "AXPE", "BPRE", "BPGE"}) {
-    for (const FixtureEvent& e : FixtureEvents(code)) {
+    for (const test::FixtureEvent& e : test::FixtureEvents(code)) {
       SCOPED_TRACE(std::string(code) + " " + std::string(e.name));
-      Session s = Opened(code);
+      Session s(test::EventFixtureRom(code));
       s.PickEvent(e.index);
-      const Form1& f = s.form;
-
-      EXPECT_EQ(f.whee, std::to_string(e.index));
-      EXPECT_EQ(f.personOffset, Hex(static_cast<int>(e.person)));
-      EXPECT_EQ(f.spritetxt.text, Hex(e.record.sprite));
-      EXPECT_EQ(f.behavtxt, Hex(e.record.behaviour));
-      EXPECT_EQ(f.Combo2.selected, e.record.behaviour);
-      EXPECT_EQ(f.tehe, std::to_string(e.record.behaviour));
-      EXPECT_EQ(f.flagtxt.text, Hex(e.record.flag));
-      EXPECT_EQ(f.scriptpointxt.text, Hex(static_cast<int>(e.script)));  // the constant, where there is one
-      EXPECT_EQ(f.Text3.text, f.scriptpointxt.text);
-      EXPECT_EQ(f.scripteh, Hex(static_cast<int>(e.record.scriptPointer - 0x08000000)));
-
       const bool hasWords = e.firstAt >= 0;
-      const bool isDeoxys = e.name == "Deoxys";
-      EXPECT_EQ(s.dialogs.MessageTexts(),
-                isDeoxys ? std::vector<std::string>{"Sorry But script Loading for this Pokemon is not yet supported."}
-                         : std::vector<std::string>{});
-      if (hasWords) {
-        const int followed = e.listFollowsSecond ? e.second : e.first;
-        EXPECT_EQ(f.Combo1.selected, followed);
-        for (const TextBox* word : {&f.Text1, &f.Text2, &f.hoobla, &f.hoobla2}) EXPECT_EQ(word->text, Hex(followed));
-        EXPECT_EQ(f.hoobla.visible, e.showsHoobla);
-        EXPECT_EQ(f.hoobla2.visible, e.showsHoobla);
-        EXPECT_EQ(f.Text1.visible, !e.showsHoobla);
-        EXPECT_EQ(f.Text2.visible, !e.showsHoobla);
-      } else {
-        EXPECT_EQ(f.Combo1.selected, 0);  // as the open left it
-        EXPECT_EQ(f.Text1.text, "&H0000");
-        EXPECT_EQ(f.Text2.text, "&H0000");
-      }
+      const int followed = !hasWords ? 0 : e.listFollowsSecond ? e.second : e.first;  // no words: as the open left it
+      const std::string word = hasWords ? Hex(static_cast<std::uint32_t>(followed)) : "&H0000";
+      const Form1& f = s.form;
+      EXPECT_EQ(Fields(f), (std::vector<std::string>{Hex(e.record.sprite), ToHexText(e.record.behaviour),
+                                                     std::to_string(e.record.behaviour), Hex(e.script), Hex(e.script),
+                                                     Hex(e.record.flag), std::to_string(e.index),
+                                                     std::to_string(followed), word, word, word, word}));
+      EXPECT_EQ(f.personOffset, Hex(e.person));
+      EXPECT_EQ(f.scripteh, Hex(e.record.scriptPointer - 0x08000000));  // the constant, where there is one, is not
+      EXPECT_EQ((std::array{f.hoobla.visible, f.hoobla2.visible, f.Text1.visible, f.Text2.visible}),
+                (std::array{e.showsHoobla, e.showsHoobla, !e.showsHoobla, !e.showsHoobla}));
+      const std::string deoxys = "Sorry But script Loading for this Pokemon is not yet supported.";
+      EXPECT_EQ(s.dialogs.MessageTexts(), std::vector<std::string>(e.name == "Deoxys" ? 1 : 0, deoxys));
 
       s.dialogs.messages.clear();
       const ByteOracle oracle(s.fixture.path());
@@ -90,246 +74,193 @@ TEST(EventWorkspaceTest, EachEventOfEachGameLoadsAndSavesItsOwnBytes) {
       s.form.flagtxt.text = "&HABCD";
       SetCombo1Selection(s.form, 0xFF);  // both bytes differ from every fixture word
       s.Save();
-
-      Ranges expected = {{e.person + 1, 2}, {e.person + 9, 1}, {e.person + 20, 2}};
-      if (hasWords) {
-        expected.push_back({At(e.script, std::min(e.firstAt, e.secondAt)), 2});
-        expected.push_back({At(e.script, std::max(e.firstAt, e.secondAt)), 2});
+      Written written = {{e.person + 1, {0xF2, 0x01}}, {e.person + 9, {0x0B}}, {e.person + 20, {0xCD, 0xAB}}};
+      for (const int at : {e.firstAt, e.secondAt}) {
+        if (at >= 0) written.push_back({e.script + static_cast<std::uint32_t>(at), {0xFF, 0x00}});
       }
-      std::sort(expected.begin(), expected.end(), [](auto a, auto b) { return a.offset < b.offset; });
-      EXPECT_EQ(oracle.Changes(), expected);
-      const Bytes now = oracle.Now();
-      EXPECT_THAT(Bytes(now.begin() + e.person, now.begin() + e.person + 22),
-                  ElementsAre(0x01, 0xF2, 0x01, 0x07, 0x0A, 0x00, 0x0B, 0x00, 0x03, 0x0B, 0x11, 0x09, 0x00, 0x0D,
-                              0x04, 0x00, _, _, _, 0x08, 0xCD, 0xAB));
-      if (hasWords) {
-        EXPECT_THAT(Bytes(now.begin() + At(e.script, e.firstAt), now.begin() + At(e.script, e.firstAt) + 2),
-                    ElementsAre(0xFF, 0x00));
-        EXPECT_THAT(Bytes(now.begin() + At(e.script, e.secondAt), now.begin() + At(e.script, e.secondAt) + 2),
-                    ElementsAre(0xFF, 0x00));
-      }
+      std::sort(written.begin(), written.end());
+      ExpectWritten(oracle, written);
       EXPECT_THAT(s.dialogs.messages, IsEmpty());
+
+      s.form.spritetxt.text = "&H7";
+      s.PickEvent(e.index);
+      EXPECT_EQ(Fields(s.form)[0], "&H1F2");
+      EXPECT_EQ(Fields(s.form)[7], "255");
     }
   }
 }
 
-// Opening Sapphire, picking Latias/Latios, another species and another cry, and saving.
-TEST(EventWorkspaceTest, TheRoadOfOneEventEditOnSapphire) {
-  Session s = Opened("AXPE");
-  ASSERT_EQ(s.form.Combo1.rows.size(), 412u);
-  s.PickEvent(2);
-  EXPECT_EQ(s.form.personOffset, "&H391E08");
-  EXPECT_EQ(s.form.scriptpointxt.text, "&H160B2B");  // whatever the person record says
-  EXPECT_EQ(s.form.Text3.text, "&H160B2B");
-  EXPECT_TRUE(s.form.hoobla2.visible);
-
-  const ByteOracle oracle(s.fixture.path());
-  SetCombo1Selection(s.form, 0xAA);
-  s.form.hoobla2.text = "&HC0";  // a cry of its own
-  s.Save();
-
-  EXPECT_EQ(oracle.Changes(), (Ranges{{0x160B5E, 2}, {0x160B84, 2}}));
-  const Bytes now = oracle.Now();
-  EXPECT_THAT(Bytes(now.begin() + 0x160B84, now.begin() + 0x160B86), ElementsAre(0xAA, 0x00));
-  EXPECT_THAT(Bytes(now.begin() + 0x160B5E, now.begin() + 0x160B60), ElementsAre(0xC0, 0x00));
-}
-
-TEST(EventWorkspaceTest, APersonRecordRoundTripsUnchanged) {
-  FixtureRom fixture = EventFixtureRom("AXVE");
-  const Bytes record{0x01, 0x2C, 0x00, 0x07, 0x0A, 0x00, 0x0B, 0x00, 0x03, 0x08, 0x11,
-                     0x09, 0x00, 0x0D, 0x04, 0x00, 0x9B, 0x0B, 0x16, 0x08, 0x34, 0x12};
-  fixture.PutBytes(0x38EE50, record);
-  Session s(std::move(fixture));
-  s.PickEvent(0);  // "Select a Event": Rayquaza's person, no words
-  EXPECT_EQ(s.form.spritetxt.text, "&H2C");
-  EXPECT_EQ(s.form.behavtxt, "&H8");
-  EXPECT_EQ(s.form.Combo2.selected, 8);
-  EXPECT_EQ(s.form.scriptpointxt.text, "&H160B9B");
-  EXPECT_EQ(s.form.flagtxt.text, "&H1234");
-  EXPECT_EQ(s.form.Text1.text, "&H0000");
-
-  const ByteOracle oracle(s.fixture.path());
-  s.Save();
-  EXPECT_THAT(oracle.Changes(), IsEmpty());
-}
-
-TEST(EventWorkspaceTest, MovementTypesFollowTheBehaviourByte) {
+// Refused before the first write: the sentence names the field, and nothing changes, also
+// not the sprite that each save here would write. Where the word fields hold no species of
+// the event, a pick of a species or a load of the words lets the save run again.
+TEST(EventWorkspaceTest, ASaveThatCannotRunIsRefusedBeforeAnyWrite) {
   struct Row {
-    std::uint8_t behaviour;
-    int listRow;  // -1: the list keeps the row it had
+    const char* says;
+    void (*edit)(Session&);
+    void (*prepare)(FixtureRom&) = [](FixtureRom&) {};
+    const char* loadFails = "";
+    void (*allow)(Session&) = nullptr;
+    Ranges then = {};  // what the allowed save writes beside the sprite
   };
-  for (const Row row : {Row{0x00, 0}, Row{0x0A, 10}, Row{0x0B, 11}, Row{0x0C, -1}, Row{0x51, -1}}) {
-    SCOPED_TRACE(int{row.behaviour});
-    FixtureRom fixture = EventFixtureRom("AXVE");
-    fixture.PutByte(0x38EE50 + 9, row.behaviour);
-    Session s(std::move(fixture));
-    SetCombo2Selection(s.form, 3);
-    s.PickEvent(1);
-    EXPECT_EQ(s.form.behavtxt, Hex(row.behaviour));
-    EXPECT_EQ(s.form.Combo2.selected, row.listRow >= 0 ? row.listRow : 3);
-
-    const ByteOracle oracle(s.fixture.path());
-    s.Save();  // the byte goes back as it was, also where no row names it
-    EXPECT_EQ(oracle.Now()[0x38EE50 + 9], row.behaviour);
-  }
-}
-
-TEST(EventWorkspaceTest, ABadFieldStopsTheSaveBeforeAnyWrite) {
-  struct Row {
-    TextBox Form1::*field;  // null: behavtxt
-    const char* text;
-    const char* names;
+  const Row rows[] = {
+      {"Behavior: \"&H100\"", [](Session& s) { s.form.behavtxt = "&H100"; }},
+      {"Flag: \"&H10000\"", [](Session& s) { s.form.flagtxt.text = "&H10000"; }},
+      {"Sprite: \"sprite\"", [](Session& s) { s.form.spritetxt.text = "sprite"; }},
+      {"Pick an event", [](Session& s) { s.Open(s.fixture.path()); }},  // the fields are not this open's
+      {"Script: \"abc\"", [](Session& s) { s.form.scriptpointxt.text = "abc"; }},
+      {"Script: \"&H7FFFFFFF\"", [](Session& s) { s.form.scriptpointxt.text = "&H7FFFFFFF"; }},
+      {"Script: \"-5\"", [](Session& s) { s.form.scriptpointxt.text = "-5"; }},
+      {"The Pokemon word at &HA00103 holds &H19C, which is no species number",  // Regiice's species stays listed
+       [](Session& s) { EXPECT_EQ(Fields(s.form)[7] + Fields(s.form)[8] + Fields(s.form)[10], "388&H19C&H0000"); },
+       [](FixtureRom& f) { f.PutWord(0xA00103, 412); }, "", [](Session& s) { SetCombo1Selection(s.form, 0x20); },
+       {{0xA00108, 2}}},  // the first word is no species: left alone
+      {"The words of this event were not loaded",  // a null script pointer fails the load after the person fields
+       [](Session& s) {
+         EXPECT_EQ(Fields(s.form)[1] + Fields(s.form)[3] + Fields(s.form)[4], "&H2&HF8000000&HF8000000");
+         s.form.scriptpointxt.text = "&HA00100";
+       },
+       [](FixtureRom& f) { f.PutLong(0x38EE50 + 16, 0); }, "&HF8000003",
+       [](Session& s) { LoadEventWords(s.form, s.rom, s.dialogs); }, {{0xA00108, 1}}},  // the Load beside Script
   };
-  const Row rows[] = {{nullptr, "&H100", "Behavior"},
-                      {&Form1::flagtxt, "&H10000", "Flag"},
-                      {&Form1::spritetxt, "sprite", "Sprite"}};
   for (const Row& row : rows) {
-    SCOPED_TRACE(row.text);
-    Session s = Opened("BPRE");
-    s.PickEvent(1);
-    if (row.field != nullptr) {
-      (s.form.*(row.field)).text = row.text;
-    } else {
-      s.form.behavtxt = row.text;
-    }
+    SCOPED_TRACE(row.says);
+    FixtureRom fixture = test::EventFixtureRom("AXVE");
+    row.prepare(fixture);
+    Session s(std::move(fixture));
+    s.PickEvent(4);  // Regiice, then Rayquaza
+    EXPECT_THAT(test::FailureOf([&] { s.PickEvent(1); }), HasSubstr(row.loadFails));
+    s.form.spritetxt.text = "&H1F2";
+    row.edit(s);
     const ByteOracle oracle(s.fixture.path());
     const std::string failure = s.SaveFailure();
-    EXPECT_THAT(failure, HasSubstr(row.names));
-    EXPECT_THAT(failure, HasSubstr(std::string("\"") + row.text + "\""));
+    EXPECT_THAT(failure, HasSubstr(row.says));
     EXPECT_THAT(failure, HasSubstr("Nothing was saved."));
     EXPECT_THAT(oracle.Changes(), IsEmpty());
+    if (row.allow == nullptr) continue;
+    row.allow(s);
+    s.Save();
+    Ranges then = {{0x38EE51, 2}};
+    then.insert(then.end(), row.then.begin(), row.then.end());
+    EXPECT_EQ(oracle.Changes(), then);
   }
 }
 
-TEST(EventWorkspaceTest, AnotherScriptOffsetMovesTheWordsButNeverThePointer) {
-  Session s = Opened("AXVE");
-  s.PickEvent(1);
-  s.fixture.PutWord(0x1003, 0x0196).PutWord(0x1008, 0x0199);
-  s.rom.Close();
-  s.rom.Open(s.fixture.path());
-  s.form.scriptpointxt.text = "&H1000";
-  LoadEventWords(s.form, s.rom, s.dialogs);  // the Load button of the words
-  for (const TextBox* word : {&s.form.Text1, &s.form.Text2, &s.form.hoobla, &s.form.hoobla2}) {
-    EXPECT_EQ(word->text, "&H196");
+const Bytes kBattle{0x6A, 0x5A, 0xB6, 0x96, 0x01, 0x46, 0x00, 0x00, 0x30, 0xA1, 0x96, 0x01, 0x02};
+constexpr std::uint32_t kScript = 0xB00000;
+constexpr std::uint32_t kNearEnd = FixtureRom::kSize - 9;
+
+void Lay(FixtureRom& f, std::uint32_t person, std::uint32_t at, const Bytes& script) {
+  f.PutLong(person + 16, at + 0x08000000).PutBytes(at, script);
+}
+
+// What a save writes, and what it says. A word field that is no word or no species number
+// stops the save at that word; a word whose place in the ROM holds no species number now is
+// left as it is (a cry kept a byte or two behind its place leaves opcodes there, and a word
+// may run past the end of the file).
+TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItLeft) {
+  struct Row {
+    const char* code;
+    int event;
+    void (*prepare)(FixtureRom&);
+    void (*edit)(Session&);
+    Written written;
+    std::vector<std::string> says;
+  };
+  const auto pick = [](Session& s) { SetCombo1Selection(s.form, 0xAB); };
+  const std::string tail = ", and writing a species there would break the event's script. ";
+  const Row rows[] = {
+      {"AXVE", 1, [](FixtureRom& f) { f.PutWord(0x1003, 0x0196).PutWord(0x1008, 0x0199); },
+       [](Session& s) {  // another script offset moves the words, never the person's pointer
+         s.form.scriptpointxt.text = "&H1000";
+         LoadEventWords(s.form, s.rom, s.dialogs);  // the Load button of the words
+         EXPECT_EQ(Fields(s.form)[8] + Fields(s.form)[9] + Fields(s.form)[11], "&H196&H196&H196");
+       },
+       {{0x1008, {0x96}}}, {}},  // the cry becomes the species
+      {"AXVE", 3, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla2.text = "&HXYZ"; }, {{0x15DE26, {0x33, 0x00}}},
+       {"Cry: \"&HXYZ\" is not a word.", "The person record and the Pokemon word were saved. The Cry word was not."}},
+      {"AXVE", 3, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla2.text = "&HFFFF"; }, {{0x15DE26, {0x33, 0x00}}},
+       {"Cry: \"&HFFFF\" is no species number",
+        "The person record and the Pokemon word were saved. The Cry word was not."}},
+      {"AXVE", 2, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla.text = "&H19C"; }, {},
+       {"Pokemon: \"&H19C\" is no species number", "The person record was saved. The Pokemon and Cry words were not."}},
+      {"AXVE", 1, [](FixtureRom& f) { Lay(f, 0x38EE50, kScript, kBattle); }, pick, {{kScript + 3, {0xAB, 0x00}}},
+       {"The Cry word was left as it is: at &HB00008 stands &HA130, which is no species number (&H0 to &H19B)" + tail +
+        "The person record and the Pokemon word were saved."}},
+      {"BPRE", 4,  // Mewtwo: 0xA1 at distance 20, the species at 21 and at 41
+       [](FixtureRom& f) {
+         Bytes mewtwo(43, 0x00);
+         mewtwo[20] = 0xA1, mewtwo[21] = 0x96, mewtwo[41] = 0x96;
+         Lay(f, 0x3B177C, kScript, mewtwo);
+       },
+       pick, {{kScript + 41, {0xAB}}},
+       {"The Cry word was left as it is: at &HB00014 stands &H96A1, which is no species number (&H0 to &H19B)" + tail +
+        "The person record and the Pokemon word were saved."}},
+      {"AXPE", 1,  // species numbers at both places: written as always, with no message
+       [](FixtureRom& f) { Lay(f, 0x38EDE0, kScript, {0xFF, 0xFF, 0xFF, 0x19, 0x00, 0xFF, 0xFF, 0xFF, 0x9B, 0x01}); },
+       pick, {{kScript + 3, {0xAB}}, {kScript + 8, {0xAB, 0x00}}}, {}},
+      {"AXVE", 1, [](FixtureRom& f) { Lay(f, 0x38EE50, kScript, kBattle); },
+       [](Session& s) { s.form.scriptpointxt.text = "&HB00100"; }, {},  // nothing but 0xFF there
+       {"The Pokemon and Cry words were left as they are: at &HB00103 stands &HFFFF and at &HB00108 stands &HFFFF, "
+        "which are no species numbers (&H0 to &H19B)" + tail + "The person record was saved."}},
+      {"AXVE", 1, [](FixtureRom& f) { Lay(f, 0x38EE50, kNearEnd, Bytes(kBattle.begin(), kBattle.begin() + 9)); }, pick,
+       {{kNearEnd + 3, {0xAB, 0x00}}},  // and the file keeps its size
+       {"The Cry word was left as it is: at &HFFFFFF stands the end of the ROM, which is no species number (&H0 to "
+        "&H19B)" + tail + "The person record and the Pokemon word were saved."}},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(std::string(row.code) + " " + std::to_string(row.event) + (row.says.empty() ? "" : row.says[0]));
+    FixtureRom fixture = test::EventFixtureRom(row.code);
+    row.prepare(fixture);
+    Session s(std::move(fixture));
+    s.PickEvent(row.event);
+    SetCombo1Selection(s.form, 0x33);
+    const ByteOracle oracle(s.fixture.path());
+    row.edit(s);
+    std::string said = s.SaveFailure();
+    for (const std::string& message : s.dialogs.MessageTexts()) said += message;
+    for (const std::string& part : row.says) EXPECT_THAT(said, HasSubstr(part));
+    EXPECT_EQ(said.empty(), row.says.empty()) << said;
+    ExpectWritten(oracle, row.written);
   }
-  EXPECT_EQ(s.form.Combo1.selected, 0x196);
-
-  const ByteOracle oracle(s.fixture.path());
-  s.Save();  // the cry becomes the species; the record keeps its own pointer
-  EXPECT_EQ(oracle.Changes(), (Ranges{{0x1008, 1}}));
-  EXPECT_EQ(oracle.Now()[0x1008], 0x96);
 }
 
-TEST(EventWorkspaceTest, RegisFollowTheSecondWordAndFrlgDistancesServeBothRows) {
-  Session ruby = Opened("AXVE");
-  ruby.PickEvent(4);  // Regiice: the list follows the word at distance 4
-  EXPECT_EQ(ruby.form.Combo1.selected, 0x180 + 4);
-
-  Session fireRed = Opened("BPRE");
-  const FixtureEvent mewtwo = FixtureEvents("BPRE")[4];
-  fireRed.PickEvent(4);
-  EXPECT_EQ(fireRed.form.Combo1.selected, mewtwo.first);  // distance 41
-  EXPECT_EQ(mewtwo.firstAt, 41);
+TEST(EventWorkspaceTest, MovementTypesFollowTheBehaviourByteAndASaveKeepsIt) {
+  for (const auto& [behaviour, listRow] : {std::pair{0x00, 0}, {0x0A, 10}, {0x0B, 11}, {0x0C, 3}, {0x51, 3}}) {
+    FixtureRom fixture = test::EventFixtureRom("AXVE");
+    fixture.PutByte(0x38EE50 + 9, static_cast<std::uint8_t>(behaviour));
+    Session s(std::move(fixture));
+    SetCombo2Selection(s.form, 3);  // a byte with no row leaves the list here
+    s.PickEvent(1);
+    EXPECT_EQ(Fields(s.form)[1] + Fields(s.form)[2], ToHexText(std::uint8_t(behaviour)) + std::to_string(listRow));
+    const ByteOracle oracle(s.fixture.path());
+    s.Save();
+    EXPECT_EQ(oracle.Now()[0x38EE50 + 9], behaviour);
+  }
 }
 
-TEST(EventWorkspaceTest, AFirstWordWithNoSpeciesLeavesTheFieldsAndRefusesTheSave) {
-  FixtureRom fixture = EventFixtureRom("AXVE");
-  const FixtureEvent rayquaza = FixtureEvents("AXVE")[1];
-  fixture.PutWord(rayquaza.script + 3, 412);
-  Session s(std::move(fixture));
-  SetCombo1Selection(s.form, 7);
-  s.PickEvent(1);
-  EXPECT_THAT(s.dialogs.messages, IsEmpty());
-  EXPECT_EQ(s.form.Combo1.selected, 7);
-  EXPECT_EQ(s.form.Text1.text, "&H19C");
-  EXPECT_EQ(s.form.Text2.text, Hex(rayquaza.second));
-  EXPECT_EQ(s.form.hoobla.text, "&H0000");
-
-  const ByteOracle oracle(s.fixture.path());
-  const std::string failure = s.SaveFailure();
-  EXPECT_THAT(failure, HasSubstr("Pokemon word at " + Hex(static_cast<int>(rayquaza.script + 3)) + " holds &H19C"));
-  EXPECT_THAT(failure, HasSubstr("Nothing was saved."));
-  EXPECT_THAT(oracle.Changes(), IsEmpty());
-
-  SetCombo1Selection(s.form, 0x20);  // picking a species makes the save possible
-  s.Save();
-  EXPECT_EQ(oracle.Changes(), (Ranges{{rayquaza.script + 8, 2}}));  // the first word is no species: left alone
+TEST(EventWorkspaceTest, AnIndexThatNamesNoRowOfAListChangesNothing) {
+  Session s(test::EventFixtureRom("AXVE"));
+  s.PickEvent(2);
+  const Form1 before = s.form;
+  for (const int index : {-1, 412, INT32_MIN, INT32_MAX}) {
+    SetCombo1Selection(s.form, index);
+    SetCombo2Selection(s.form, index);
+    SetCombo3Selection(s.form, s.rom, s.dialogs, index);
+    SetCombo4Selection(s.form, s.rom, s.dialogs, index);
+  }
+  EXPECT_EQ(Fields(s.form), Fields(before));
+  EXPECT_EQ(s.form.Combo1.text + s.form.Combo2.text + s.form.Combo3.text,
+            before.Combo1.text + before.Combo2.text + before.Combo3.text);
 }
 
-TEST(EventWorkspaceTest, ASaveBeforeAnEventIsPickedOnANewRomIsRefused) {
-  Session s = Opened("AXVE");
-  s.PickEvent(1);
-  s.Open();  // the same file again: the event fields are not yet this open's
-  const ByteOracle oracle(s.fixture.path());
-  EXPECT_THAT(s.SaveFailure(), HasSubstr("Pick an event"));
-  EXPECT_THAT(oracle.Changes(), IsEmpty());
-  s.PickEvent(1);
-  EXPECT_EQ(s.SaveFailure(), "");
-}
-
-TEST(EventWorkspaceTest, PickingTheSameEventTwiceReadsTheRomAgain) {
-  Session s = Opened("BPGE");
-  s.PickEvent(3);
-  const Form1 first = s.form;
-  s.form.spritetxt.text = "&H7";
-  s.PickEvent(3);
-  EXPECT_EQ(s.form.spritetxt.text, first.spritetxt.text);
-  EXPECT_EQ(s.form.flagtxt.text, first.flagtxt.text);
-  EXPECT_EQ(s.form.Text1.text, first.Text1.text);
-}
-
-TEST(EventWorkspaceTest, TheWordLoadOfRubyAndSapphirePutsTheFlagBack) {
-  Session s = Opened("AXPE");
-  s.PickEvent(5);
-  const std::string flag = s.form.flagtxt.text;
-  s.form.flagtxt.text = "&H1";
-  LoadEventWords(s.form, s.rom, s.dialogs);
-  EXPECT_EQ(s.form.flagtxt.text, flag);
-
-  Session f = Opened("BPRE");
-  f.PickEvent(1);
-  f.form.flagtxt.text = "&H1";
-  LoadEventWords(f.form, f.rom, f.dialogs);
-  EXPECT_EQ(f.form.flagtxt.text, "&H1");
-}
-
-TEST(EventWorkspaceTest, ABadCryStopsTheSaveAfterTheFirstWord) {
-  Session s = Opened("AXVE");
-  const FixtureEvent groudon = FixtureEvents("AXVE")[3];
-  s.PickEvent(3);
-  SetCombo1Selection(s.form, 0x33);
-  s.form.hoobla2.text = "&HXYZ";
-  const ByteOracle oracle(s.fixture.path());
-  const std::string failure = s.SaveFailure();
-  EXPECT_THAT(failure, HasSubstr("Cry: \"&HXYZ\" is not a word."));
-  EXPECT_THAT(failure, HasSubstr("The person record and the Pokemon word were saved. The Cry word was not."));
-  EXPECT_EQ(oracle.Changes(), (Ranges{{0x15DE26, 2}}));
-  EXPECT_EQ(groudon.script + 79, 0x15DE26u);
-}
-
-TEST(EventWorkspaceTest, ANullScriptPointerFailsTheWordLoadAfterThePersonFields) {
-  FixtureRom fixture = EventFixtureRom("BPRE");
-  fixture.PutLong(0x3B27D4 + 16, 0);
-  Session s(std::move(fixture));
-  EXPECT_THAT(test::FailureOf([&] { s.PickEvent(1); }), HasSubstr("&HF8000014"));
-  EXPECT_EQ(s.form.scriptpointxt.text, "&HF8000000");
-  EXPECT_EQ(s.form.Text3.text, "&HF8000000");
-  EXPECT_EQ(s.form.spritetxt.text, "&H51");
-}
-
-TEST(EventWorkspaceTest, AFamilyOfNoGameAnswersThatItHasNoWords) {
-  Session s = Opened("AXVE");
-  s.PickEvent(1);
-  s.form.cowmoo = "e";
-  LoadEventWords(s.form, s.rom, s.dialogs);
-  SaveEventWords(s.form, s.rom, s.dialogs);
-  EXPECT_THAT(s.dialogs.MessageTexts(), ElementsAre("Load not supported", "Save not supported"));
-}
-
-TEST(EventWorkspaceTest, SelectSpeciesPutsItsNumberIntoAllFourWords) {
-  Form1 form;
-  SelectSpecies(form, 0x19A);
-  for (const TextBox* word : {&form.Text1, &form.Text2, &form.hoobla, &form.hoobla2}) EXPECT_EQ(word->text, "&H19A");
+TEST(EventWorkspaceTest, TheWordLoadPutsTheFlagBackInRubyAndSapphire) {
+  for (const auto& [code, event, flag] : {std::tuple{"AXPE", 5, "&H805"}, {"BPRE", 1, "&H1"}}) {
+    Session s(test::EventFixtureRom(code));
+    s.PickEvent(event);
+    s.form.flagtxt.text = "&H1";
+    LoadEventWords(s.form, s.rom, s.dialogs);
+    EXPECT_EQ(s.form.flagtxt.text, flag) << code;
+  }
 }
 
 }  // namespace

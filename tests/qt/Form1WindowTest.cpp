@@ -5,15 +5,15 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QMenu>
-#include <QTimer>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
-#include <QTest>
+#include <QTimer>
 
 #include "qt/LinedTextBoxWidget.h"
 #include "qt/QtShell.h"
+#include "rom/Failure.h"
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
 #include "support/ScriptedDialogs.h"
@@ -22,12 +22,7 @@
 namespace tessarine {
 namespace {
 
-using test::ByteOracle;
-using test::ByteRange;
-using test::EventFixtureRom;
-using test::FixtureRom;
 using test::Pick;
-using test::ScriptedDialogs;
 using test::Type;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
@@ -35,155 +30,126 @@ using ::testing::IsEmpty;
 
 class Form1WindowTest : public ::testing::Test {
  protected:
-  ScriptedDialogs dialogs;
-  QtShell shell{dialogs};
-  Form1Window& window = shell.mainWindow();
-
   void SetUp() override {
     shell.ShowWindow(WindowName::Form1);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
   }
-  template <typename W>
+  template <typename W = QLineEdit>
   W* Find(const char* name) {
-    W* widget = window.findChild<W*>(name);
-    EXPECT_NE(widget, nullptr) << name;
-    return widget;
+    return window.findChild<W*>(name);
   }
-  // A click on the picture of Open, beside its caption.
-  void ClickOpen(const std::string& path) {
+  void Click(const char* button) { QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton); }
+  void ClickOpen(const std::string& path) {  // on the picture of Open, beside its caption
     dialogs.openFileAnswers.push_back(path);
     QTest::mouseClick(Find<ImageButton>("Image3"), Qt::LeftButton, {}, QPoint(6, 6));
   }
+  test::ScriptedDialogs dialogs;
+  QtShell shell{dialogs};
+  Form1Window& window = shell.mainWindow();
 };
 
-TEST_F(Form1WindowTest, StartsWithTheControlsOfTheMainWindow) {
-  EXPECT_EQ(window.windowTitle(), "Tessarine Load Test");
-  EXPECT_EQ(Find<QLabel>("Label15")->text(), "Open");
-  EXPECT_EQ(Find<QLabel>("Label16")->text(), "Tools");
-  EXPECT_EQ(Find<QLabel>("Label17")->text(), "About");
-  EXPECT_EQ(Find<QComboBox>("Combo3")->currentText(), "Select a Event");
-  EXPECT_FALSE(Find<QComboBox>("Combo3")->isEnabled());
-  EXPECT_FALSE(Find<QComboBox>("Combo4")->isVisible());
-  EXPECT_EQ(Find<QPushButton>("Command10")->text(), "load");
-  EXPECT_FALSE(Find<QPushButton>("Command10")->isEnabled());
-  EXPECT_FALSE(Find<QPushButton>("Command9")->isEnabled());
-  EXPECT_FALSE(Find<QPushButton>("Command2")->isEnabled());
-  EXPECT_EQ(Find<QLineEdit>("spritetxt")->text(), "&H0000");
-  EXPECT_EQ(Find<QLineEdit>("scriptpointxt")->text(), "&H000000");
-  EXPECT_EQ(Find<QLineEdit>("Text3")->text(), "&H15F316");
-  EXPECT_EQ(Find<QLabel>("Label18")->text(), "Offset: ");
-  EXPECT_EQ(Find<QLabel>("hdtxt")->text(), "None");
-  EXPECT_EQ(Find<QComboBox>("Combo2")->count(), 12);
-  EXPECT_TRUE(Find<QPushButton>("Command6")->isVisible());
-  EXPECT_TRUE(Find<QPushButton>("frlgl")->isVisible());
-  EXPECT_FALSE(Find<QLineEdit>("hoobla2")->isVisible());
-}
-
-TEST_F(Form1WindowTest, TheCaptionOpenTakesItsClicksAndTheOthersPassThemOn) {
-  QTest::mouseClick(Find<QLabel>("Label15"), Qt::LeftButton);
-  EXPECT_THAT(dialogs.fileDialogs, IsEmpty());
-  QTest::mouseClick(Find<QLabel>("Label17"), Qt::LeftButton);
-  EXPECT_NE(shell.Window(WindowName::frmAbout), nullptr);
-  ClickOpen("");
-  EXPECT_EQ(dialogs.fileDialogs.size(), 1u);
-  QTest::keyClick(Find<ImageButton>("Image3"), Qt::Key_Return);  // the keyboard reaches it too
-  QTest::qWait(300);  // animateClick's press
-  EXPECT_EQ(dialogs.fileDialogs.size(), 2u);
-}
-
-TEST_F(Form1WindowTest, TextTypedIntoTheEventListSelectsNoEvent) {
-  FixtureRom fixture = EventFixtureRom("AXVE");
+// A person's road through the window: each control on it reaches the core, and the bytes
+// in the file prove it.
+TEST_F(Form1WindowTest, AnEventEditAndTwoListingsReachTheRomThroughTheWidgets) {
+  test::FixtureRom fixture = test::EventFixtureRom("AXPE");
+  fixture.PutBytes(0xA00200, {0x6A, 0x5A, 0xB6, 0x19, 0x00, 0x05, 0x00, 0x00, 0x30, 0xA1, 0x19, 0x00, 0x02});
   ClickOpen(fixture.path());
-  auto* events = Find<QComboBox>("Combo3");
+  EXPECT_EQ(Find<QLabel>("hdtxt")->text(), "AXPE");
+  EXPECT_EQ(Find<QComboBox>("Combo1")->count(), 412);
+  auto* events = Find<QComboBox>("Combo3");  // typed text selects no event, not even with Enter
   events->setFocus();
   events->lineEdit()->selectAll();
   QTest::keyClicks(events, "Rayq");
   QTest::keyClick(events, Qt::Key_Return);
-  EXPECT_EQ(events->currentText(), "Rayq");
-  EXPECT_EQ(shell.form1().Combo3.text, "Rayq");
-  EXPECT_EQ(shell.form1().whee, "0");
-  EXPECT_EQ(shell.form1().spritetxt.text, "&H0000");
-  Pick(events, 1);
-  EXPECT_EQ(shell.form1().whee, "1");
-}
+  EXPECT_EQ(events->currentText() + QString::fromStdString(shell.form1().whee), "Rayq0");
+  Pick(events, 2);  // Latias/Latios
+  EXPECT_EQ(Find("scriptpointxt")->text(), "&H160B2B");
+  ASSERT_TRUE(Find("hoobla2")->isVisible());
 
-TEST_F(Form1WindowTest, AnEventEditFromOpenToSaveThroughTheWidgets) {
-  FixtureRom fixture = EventFixtureRom("AXPE");
-  ClickOpen(fixture.path());
-  EXPECT_EQ(Find<QLabel>("hdtxt")->text(), "AXPE");
-  EXPECT_EQ(Find<QComboBox>("Combo1")->count(), 412);
-
-  Pick(Find<QComboBox>("Combo3"), 2);  // Latias/Latios
-  EXPECT_EQ(Find<QLineEdit>("scriptpointxt")->text(), "&H160B2B");
-  ASSERT_TRUE(Find<QLineEdit>("hoobla2")->isVisible());
-
-  const ByteOracle oracle(fixture.path());
+  const test::ByteOracle oracle(fixture.path());
   Pick(Find<QComboBox>("Combo1"), 0xAA);
-  EXPECT_EQ(Find<QLineEdit>("hoobla2")->text(), "&HAA");
-  Type(Find<QLineEdit>("hoobla2"), "&HC0");
-  Type(Find<QLineEdit>("flagtxt"), "&H4321");
-  QTest::mouseClick(Find<QPushButton>("Command9"), Qt::LeftButton);
-
+  EXPECT_EQ(Find("hoobla2")->text(), "&HAA");
+  Type(Find("hoobla2"), "&HC0");
+  Type(Find("flagtxt"), "&H4321");
+  Click("Command9");
   EXPECT_THAT(dialogs.messages, IsEmpty());
-  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{0x160B5E, 2}, {0x160B84, 2}, {0x391E08 + 20, 2}}));
+  EXPECT_EQ(oracle.Changes(), (std::vector<test::ByteRange>{{0x160B5E, 2}, {0x160B84, 2}, {0x391E08 + 20, 2}}));
   const Bytes now = oracle.Now();
-  EXPECT_THAT(Bytes(now.begin() + 0x391E08 + 20, now.begin() + 0x391E08 + 22), ElementsAre(0x21, 0x43));
-  EXPECT_THAT(Bytes(now.begin() + 0x160B84, now.begin() + 0x160B86), ElementsAre(0xAA, 0x00));
-  EXPECT_THAT(Bytes(now.begin() + 0x160B5E, now.begin() + 0x160B60), ElementsAre(0xC0, 0x00));
-}
+  EXPECT_EQ((Bytes{now[0x160B5E], now[0x160B5F], now[0x160B84], now[0x160B85], now[0x391E1C], now[0x391E1D]}),
+            (Bytes{0xC0, 0x00, 0xAA, 0x00, 0x21, 0x43}));
 
-TEST_F(Form1WindowTest, TheListerShowsAScriptWithLineNumbers) {
-  FixtureRom fixture = EventFixtureRom("BPGE");
-  fixture.PutBytes(0xA00200, {0x6A, 0x5A, 0xB6, 0x19, 0x00, 0x05, 0x00, 0x00, 0x30, 0xA1, 0x19, 0x00, 0x02});
-  ClickOpen(fixture.path());
+  // Each press of Load puts the whole listing into Text4, also over what a person typed there.
   auto* text4 = Find<LinedTextBoxWidget>("Text4");
-  EXPECT_TRUE(text4->LineNumbersOn());
-  EXPECT_EQ(text4->NumDigits(), 4);
-
-  Type(Find<QLineEdit>("Text3"), "&HA00200");
-  QTest::mouseClick(Find<QPushButton>("Command2"), Qt::LeftButton);
-  EXPECT_EQ(text4->toPlainText(), "lock \nfaceplayer \nwildpkmnbattle: &H19 &H5 &H0\ncry  &H19\nend \n");
-  QTest::qWait(50);  // the paints that the new text asks for
-  ASSERT_TRUE(text4->LastGutterPaint().has_value());
-  EXPECT_EQ(text4->LastGutterPaint()->rows.size(), 6u);
-
-  Type(Find<QLineEdit>("Text3"), "&HF8000000");  // what a null script pointer leaves there
-  QTest::mouseClick(Find<QPushButton>("Command2"), Qt::LeftButton);
-  EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("Offset Bad"));
-  EXPECT_EQ(text4->blockCount(), 6);  // the listing stays
+  const std::string listing = "lock \nfaceplayer \nwildpkmnbattle: &H19 &H5 &H0\ncry  &H19\nend \n";
+  Type(Find("Text3"), "&HA00200");
+  for (int press = 0; press < 2; ++press) {
+    Click("Command2");
+    EXPECT_EQ(text4->toPlainText().toStdString(), listing);
+    QTest::qWait(50);  // the paints that the new text asks for
+    EXPECT_EQ(text4->LastGutterPaint().value_or(GutterPaint{}).rows.size(), 6u);
+    QTest::keyClicks(text4, "typed");
+  }
+  Type(Find("Text3"), "&HF8000000");  // what a null script pointer leaves there
+  Click("Command2");
+  EXPECT_EQ(dialogs.MessageTexts().back(), "Offset Bad");
+  EXPECT_EQ(text4->toPlainText().toStdString(), "typed" + listing);  // what the box holds stays
 }
 
-TEST_F(Form1WindowTest, AFailureIsShownAndTheWindowStaysUsable) {
-  FixtureRom fixture = EventFixtureRom("BPRE");
-  ClickOpen(fixture.path());
-  Pick(Find<QComboBox>("Combo4"), 1);
-  Type(Find<QLineEdit>("flagtxt"), "&H10000");
-  QTest::mouseClick(Find<QPushButton>("Command9"), Qt::LeftButton);
-  ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_THAT(dialogs.messages[0].text, HasSubstr("Flag: \"&H10000\" is not a word."));
+// Whatever ends an action ends it with a sentence, also in an action that starts while
+// another one keeps the events running (as the listing's progress dialog does).
+TEST_F(Form1WindowTest, EveryActionEndsInASentenceAlsoOneStartedInsideAnother) {
+  struct Row {
+    bool nested;
+    void (*fail)();
+    const char* says;
+  };
+  const Row rows[] = {
+      {true, [] { throw Failure("Flag: \"x\" is not a word."); }, "Flag: \"x\" is not a word."},
+      {true, [] { throw std::bad_alloc(); }, "more memory than the system could give"},
+      {false, [] { throw std::length_error("basic_string::_M_create"); }, "more memory than the system could give"}};
+  for (const Row& row : rows) {
+    dialogs.messages.clear();
+    bool outerEnded = false;
+    shell.Run([&] {
+      if (!row.nested) row.fail();
+      QTimer::singleShot(0, [&] { shell.Run(row.fail); });
+      QTest::qWait(20);
+      outerEnded = true;
+    });
+    EXPECT_EQ(outerEnded, row.nested) << row.says;
+    EXPECT_THAT(dialogs.MessageTexts(), ElementsAre(HasSubstr(row.says)));
+  }
+}
 
-  Type(Find<QLineEdit>("flagtxt"), "&H10");
-  QTest::mouseClick(Find<QPushButton>("Command9"), Qt::LeftButton);
-  EXPECT_EQ(dialogs.messages.size(), 1u);
+TEST_F(Form1WindowTest, TheCaptionOfOpenDoesNothingAndTheAboutBoxIsOneModelessWindow) {
+  QTest::mouseClick(Find<QLabel>("Label15"), Qt::LeftButton);
+  EXPECT_THAT(dialogs.fileDialogs, IsEmpty());
+  QTest::keyClick(Find<ImageButton>("Image3"), Qt::Key_Return);  // the keyboard reaches Open
+  QTest::qWait(300);                                              // animateClick's press
+  EXPECT_EQ(dialogs.fileDialogs.size(), 1u);
+  QTest::mouseClick(Find<QLabel>("Label17"), Qt::LeftButton);  // About's caption opens it
+  QWidget* about = shell.Window(WindowName::frmAbout);
+  ASSERT_NE(about, nullptr);
+  EXPECT_EQ(about->findChild<QLabel*>("lblVersion")->text(), "Version 0.5.112");
+  EXPECT_FALSE(about->isModal());
+  QTest::mouseClick(Find<ImageButton>("Image5"), Qt::LeftButton);
+  EXPECT_EQ(shell.Window(WindowName::frmAbout), about);
+  QTest::mouseClick(about->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+  QTest::qWait(0);
+  EXPECT_EQ(shell.Window(WindowName::frmAbout), nullptr);
 }
 
 TEST_F(Form1WindowTest, AnUnknownGameShowsTheUnsupportedRomDialogInsteadOfTheMainWindow) {
-  FixtureRom emerald = FixtureRom::Emerald();
+  test::FixtureRom emerald = test::FixtureRom::Emerald();
   ClickOpen(emerald.path());
   EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("Unsupported ROM"));
-  EXPECT_FALSE(window.isVisible());
   QWidget* form9 = shell.Window(WindowName::Form9);
   ASSERT_NE(form9, nullptr);
-  EXPECT_TRUE(form9->isVisible());
-  EXPECT_EQ(form9->windowTitle(), "Unsupported ROM");
-
-  auto* text1 = form9->findChild<QLineEdit*>("Text1");
-  EXPECT_EQ(text1->text(), "&H000000");
-  Type(text1, "&H245EE0");
+  EXPECT_EQ(std::pair(window.isVisible(), form9->isVisible()), std::pair(false, true));
+  Type(form9->findChild<QLineEdit*>("Text1"), "&H245EE0");
   QTest::mouseClick(form9->findChild<QPushButton*>("Command1"), Qt::LeftButton);
-  EXPECT_TRUE(window.isVisible());
   QTest::qWait(0);  // the closed dialog is dropped
-  EXPECT_EQ(shell.Window(WindowName::Form9), nullptr);
+  EXPECT_EQ(std::pair(window.isVisible(), shell.Window(WindowName::Form9)), std::pair(true, (QWidget*)nullptr));
   EXPECT_EQ(shell.form1().Label20, "&H245EE0");
 }
 
@@ -192,8 +158,7 @@ TEST_F(Form1WindowTest, TheRightButtonOnTheBackgroundOpensTheToolsMenuWithNoRomO
   QTimer::singleShot(0, [&] {
     if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
       for (const QAction* action : menu->actions()) entries << action->text();
-      const QList<QAction*> actions = menu->actions();
-      menu->setActiveAction(actions.last());  // Kindlewick, started by name
+      menu->setActiveAction(menu->actions().last());  // Kindlewick, started by name
       QTest::keyClick(menu, Qt::Key_Return);
     }
   });
@@ -202,21 +167,6 @@ TEST_F(Form1WindowTest, TheRightButtonOnTheBackgroundOpensTheToolsMenuWithNoRomO
   EXPECT_EQ(entries.value(1), "Insert Wild Battle Script");
   EXPECT_THAT(dialogs.programsStarted, ElementsAre("Kindlewick"));
   EXPECT_THAT(dialogs.messages, IsEmpty());  // not being able to start it passes in silence
-}
-
-TEST_F(Form1WindowTest, TheAboutBoxIsOneModelessWindow) {
-  QTest::mouseClick(Find<ImageButton>("Image5"), Qt::LeftButton);
-  QWidget* about = shell.Window(WindowName::frmAbout);
-  ASSERT_NE(about, nullptr);
-  EXPECT_EQ(about->windowTitle(), "About Tessarine");
-  EXPECT_EQ(about->findChild<QLabel*>("lblVersion")->text(), "Version 0.5.112");
-  EXPECT_EQ(about->findChild<QLabel*>("lblTitle")->text(), "Tessarine");
-  EXPECT_FALSE(about->isModal());
-  QTest::mouseClick(Find<ImageButton>("Image5"), Qt::LeftButton);
-  EXPECT_EQ(shell.Window(WindowName::frmAbout), about);
-  QTest::mouseClick(about->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
-  QTest::qWait(0);
-  EXPECT_EQ(shell.Window(WindowName::frmAbout), nullptr);
 }
 
 }  // namespace

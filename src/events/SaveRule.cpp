@@ -1,0 +1,83 @@
+#include "events/SaveRule.h"
+
+#include <cstdint>
+#include <utility>
+
+#include "events/EventCatalogue.h"
+#include "forms/Form1.h"
+#include "forms/ListRows.h"
+#include "rom/Failure.h"
+#include "rom/HexField.h"
+
+namespace tessarine {
+namespace {
+
+// The sentence of the Failure that `parse` throws, or none.
+template <typename Parse>
+std::optional<std::string> ParseFailure(Parse parse) {
+  try {
+    parse();
+  } catch (const Failure& failure) {
+    return failure.what();
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> WordsRefusal(const Form1& form) {
+  const WordsToSave& words = form.wordsToSave;
+  switch (words.state) {
+    case WordsToSave::State::Loaded:
+      return std::nullopt;
+    case WordsToSave::State::NotLoaded:
+      return "The words of this event were not loaded from its script, so the Pokemon and Cry fields hold no "
+             "species of it. Press Load beside Script to read them, or pick a species in the Pokemon list.";
+    case WordsToSave::State::NoSpecies:
+      return "The " + words.word + " word at " + ToHexText(words.at) + " holds " + ToHexText(words.holds) +
+             ", which is no species number, so the Pokemon list shows none and there is no species to save. "
+             "Pick one in the Pokemon list first.";
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::string> SaveRefusal(const Form1& form) {
+  if (!form.eventFieldsMatchRom) {
+    return "Pick an event in the list before saving: the event fields were not loaded from the ROM now open, "
+           "and a save would write at offsets that may not belong to it.";
+  }
+  if (auto failure = ParseFailure([&] {
+        ParseWord(form.spritetxt.text, "Sprite");
+        ParseWord(form.flagtxt.text, "Flag");
+        ParseByte(form.behavtxt, "Behavior");
+      })) {
+    return failure;
+  }
+  const EventWordLayout* layout = SelectedWordLayout(form);
+  if (layout == nullptr) return std::nullopt;
+  if (auto refusal = WordsRefusal(form)) return refusal;
+
+  std::int64_t script = 0;
+  if (auto failure = ParseFailure([&] { script = ParseOffset(form.scriptpointxt.text, "Script"); })) return failure;
+  for (const auto& [name, distance] : {std::pair{"Pokemon", layout->firstWordAt}, {"Cry", layout->secondWordAt}}) {
+    const std::int64_t at = script + distance;
+    if (at < 0 || at > INT32_MAX) {
+      return "Script: \"" + form.scriptpointxt.text + "\" puts the " + name + " word " +
+             (at < 0 ? "before the start of the ROM." : "beyond 32 bits.");
+    }
+  }
+  return std::nullopt;
+}
+
+std::int16_t SpeciesToWrite(std::string_view text, std::string_view name) {
+  const std::int16_t value = ParseWord(text, name);
+  if (!IsSpeciesNumber(value)) {
+    throw Failure(std::string(name) + ": \"" + std::string(text) + "\" is no species number. Type one from &H0 to " +
+                  ToHexText(kSpeciesCount - 1) + ", or pick a species in the Pokemon list.");
+  }
+  return value;
+}
+
+bool MayOverwrite(std::optional<std::int16_t> inRom) { return inRom && IsSpeciesNumber(*inRom); }
+
+}  // namespace tessarine
