@@ -5,6 +5,7 @@
 
 #include "braille/BrailleRecord.h"
 #include "forms/Dialogs.h"
+#include "forms/InsertPlace.h"
 #include "rom/Failure.h"
 #include "rom/HexField.h"
 #include "rom/RomImage.h"
@@ -36,14 +37,6 @@ std::string FieldName(const Label& label) {
   return name;
 }
 
-void RequireInside(const RomImage& rom, RomOffset offset, std::size_t size, const std::string& field,
-                   const char* what) {
-  if (rom.Holds(offset, size)) return;
-  throw Failure(field + ": " + what + " of " + std::to_string(size) + " bytes at " + ToHexText(offset) +
-                " would not lie inside the ROM, which is " + ToHexText(static_cast<std::int32_t>(rom.Length())) +
-                " bytes long.");
-}
-
 struct Insertion {
   BrailleHeader header{};
   RomOffset brailleOffset = 0;
@@ -51,7 +44,7 @@ struct Insertion {
 };
 
 // Everything Insert needs, parsed and checked, before it writes.
-Insertion PlanInsertion(const Form6& form, const RomImage& rom) {
+Insertion PlanInsertion(const Form6& form, RomImage& rom) {
   Insertion plan;
   for (std::size_t i = 0; i < kHeaderFields.size(); ++i) {
     plan.header[i] = ParseByte((form.*kHeaderFields[i].box).text, FieldName(form.*kHeaderFields[i].label));
@@ -66,9 +59,10 @@ Insertion PlanInsertion(const Form6& form, const RomImage& rom) {
   } catch (const Failure& failure) {
     throw Failure(brailleField + ": " + failure.what());
   }
-  RequireInside(rom, plan.brailleOffset, BrailleRecordBytes(plan.header, form.Text1.text).size(), brailleField,
-                "the braille record");
-  RequireInside(rom, plan.scriptOffset, script.size(), scriptField, "the script");
+  const auto recordSize = static_cast<std::int64_t>(BrailleRecordBytes(plan.header, form.Text1.text).size());
+  RequireInsideRom(rom, plan.brailleOffset, recordSize, "the braille record", brailleField, form.Text2.text);
+  RequireInsideRom(rom, plan.scriptOffset, static_cast<std::int64_t>(script.size()), "the script", scriptField,
+                   form.Text3.text);
   return plan;
 }
 

@@ -19,12 +19,13 @@ PictureFile ReadBounded(QImageReader& reader, const QString& name) {
   }
   if (size.width() > kMaxPictureSide || size.height() > kMaxPictureSide ||
       qint64{size.width()} * size.height() > kMaxPicturePixels) {
-    return {{}, QString("\"%1\" holds a picture of %2 by %3 pixels, more than the %4 by %4 that can be shown, "
-                        "so it was not read.")
+    return {{}, QString("\"%1\" holds a picture of %2 by %3 pixels, more than can be shown (at most %4 pixels a "
+                        "side and %5 pixels in all), so it was not read.")
                     .arg(name)
                     .arg(size.width())
                     .arg(size.height())
-                    .arg(kMaxPictureSide)};
+                    .arg(kMaxPictureSide)
+                    .arg(kMaxPicturePixels)};
   }
   QImage image = reader.read();
   if (image.isNull()) {

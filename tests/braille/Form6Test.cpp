@@ -79,9 +79,11 @@ TEST(Form6Test, InsertWritesTheRecordAndItsScriptOrNothing) {
       {"no pointer", kZero, "A", "&H78000000", "&H700100", MessageAnswer::Yes, {},
        "Braille Offset: The offset &H78000000 cannot be a pointer"},
       {"script past the end", kZero, "A", "&H700000", "&H7FFFFC", MessageAnswer::Yes, {},
-       "Script Offset: the script of 8 bytes at &H7FFFFC would not lie inside the ROM"},
+       "Script Offset: \"&H7FFFFC\": the script, 8 bytes from &H7FFFFC, would run past the end of the ROM"},
+      {"script before the start", kZero, "A", "&H700000", "&HFFFFFFF0", MessageAnswer::Yes, {},
+       "Script Offset: \"&HFFFFFFF0\": the script, 8 bytes from -16, would lie before the start of the ROM."},
       {"record past the end", kZero, "A", "&H7FFFF8", "&H700100", MessageAnswer::Yes, {},
-       "Braille Offset: the braille record of 9 bytes at &H7FFFF8"},
+       "Braille Offset: \"&H7FFFF8\": the braille record, 9 bytes from &H7FFFF8, would run past the end"},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);

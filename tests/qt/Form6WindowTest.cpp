@@ -80,20 +80,30 @@ TEST(Form6WindowTest, TheWidgetsInsertLoadAndPreviewABrailleRecord) {
   EXPECT_EQ(field("postionleft")->text(), "&H1");
   EXPECT_EQ(shape1->geometry(), QRect(8, 16, 229, 139));
 
-  // A file that is no picture is refused and the picture stays; a BMP becomes the picture.
+  // A file that is no picture, or a photo of more pixels than are decoded (a BMP header alone,
+  // 6000 by 4000), is refused and the picture stays; a BMP becomes the picture.
   QTemporaryDir folder;
-  const QString notes = folder.filePath("notes.bmp"), scene = folder.filePath("scene.bmp");
+  const QString notes = folder.filePath("notes.bmp"), photo = folder.filePath("photo.bmp");
+  const QString scene = folder.filePath("scene.bmp");
   QFile(notes).open(QIODevice::WriteOnly);
+  QFile photoFile(photo);
+  photoFile.open(QIODevice::WriteOnly);
+  photoFile.write(QByteArray::fromHex("424D3600000000000000360000002800000070170000A00F000001001800"
+                                      "000000000000000000000000000000000000000000000000"));
+  photoFile.close();
   QImage(100, 50, QImage::Format_RGB32).save(scene);
   auto* picture1 = window->findChild<QLabel*>("Picture1");
-  dialogs.openFileAnswers = {notes.toStdString(), scene.toStdString()};
+  dialogs.openFileAnswers = {notes.toStdString(), photo.toStdString(), scene.toStdString()};
   click("Command5");
-  ASSERT_EQ(dialogs.messages.size(), 2u);
+  click("Command5");
+  ASSERT_EQ(dialogs.messages.size(), 3u);
   EXPECT_THAT(dialogs.messages[1].text, HasSubstr("The preview keeps its picture."));
+  EXPECT_THAT(dialogs.messages[2].text, HasSubstr("6000 by 4000 pixels, more than can be shown (at most 8192 pixels "
+                                                  "a side and 16777216 pixels in all)"));
   EXPECT_EQ(picture1->pixmap().size(), QSize(240, 160));
   click("Command5");
   EXPECT_EQ(picture1->pixmap().size(), QSize(100, 50));
-  EXPECT_EQ(dialogs.messages.size(), 2u);
+  EXPECT_EQ(dialogs.messages.size(), 3u);
 }
 
 }  // namespace
