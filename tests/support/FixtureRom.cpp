@@ -8,6 +8,14 @@
 
 namespace tessarine::test {
 
+Bytes FromHex(std::string_view hex) {
+  Bytes bytes;
+  for (std::size_t at = 0; at + 1 < hex.size(); at += 3) {
+    bytes.push_back(static_cast<std::uint8_t>(std::stoi(std::string(hex.substr(at, 2)), nullptr, 16)));
+  }
+  return bytes;
+}
+
 Bytes GameTextOf(std::string_view ascii) {
   Bytes bytes;
   for (const char c : ascii) {

@@ -52,6 +52,9 @@ class FixtureRom {
   bool dirty_ = true;
 };
 
+// Bytes written as in a hex dump: "6A 5A 02".
+Bytes FromHex(std::string_view hex);
+
 // The game-text bytes of a name made of letters, digits and blanks.
 Bytes GameTextOf(std::string_view ascii);
 
