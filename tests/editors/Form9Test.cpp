@@ -24,7 +24,8 @@ TEST(Form9Test, ContinueKeepsBothTextsAndQuitNothing) {
     EXPECT_EQ(main.Label20, keep ? "&H245EE0" : "&H1F716C");
     EXPECT_EQ(main.itemRecords, keep ? "not a number" : "");
     EXPECT_EQ(main.rom, "crap");
-    EXPECT_THAT(dialogs.windowEvents, testing::ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
+    EXPECT_THAT(dialogs.windowEvents,
+                testing::ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
   }
 }
 

@@ -95,6 +95,9 @@ TEST(GbaPointerTest, ConvertsBetweenPointerAndOffsetWithin32Bits) {
   for (const RomOffset offset : {0x78000000, INT32_MAX}) {
     EXPECT_THAT(FailureOf([&] { ToGbaPointer(offset); }), HasSubstr("cannot be a pointer"));
   }
+  EXPECT_EQ(OffsetPlus(0x160B2B, 89), 0x160B84);
+  EXPECT_THAT(FailureOf([] { OffsetPlus(INT32_MAX, 1); }),
+              HasSubstr("The offset &H7FFFFFFF plus 1 goes beyond 32 bits."));
 }
 
 TEST(RomImageTest, ReadsRunOnFromTheSharedPosition) {
@@ -175,7 +178,8 @@ TEST(RomImageTest, FailuresSaySoAndChangeNothing) {
   EXPECT_THAT(oracle.Changes(), IsEmpty());
   RomImage full;
   full.Open("/dev/full");  // every write to it fails: no space left on the device
-  EXPECT_THAT(FailureOf([&] { full.WriteLong(0, 0x08000000); }), AllOf(HasSubstr("refused"), HasSubstr("No space left")));
+  EXPECT_THAT(FailureOf([&] { full.WriteLong(0, 0x08000000); }),
+              AllOf(HasSubstr("refused"), HasSubstr("No space left")));
 }
 
 TEST(RomImageTest, AFileThatCannotBeWrittenOpensReadOnlyAndRefusesWrites) {
