@@ -213,7 +213,7 @@ TEST(modLinedTextBoxTest, TheSelectionIsTintedAndFramedOpenWhereItLeavesTheView)
   EXPECT_EQ(paint.frame, (PixelRect{2, 15, 41, 25}));
 }
 
-TEST(modLinedTextBoxTest, NumbersArePaddedAndCutToNumDigits) {
+TEST(modLinedTextBoxTest, NumbersArePaddedAndCutAndBlendsRoundHalvesUp) {
   const struct {
     int numDigits, firstLine;
     std::vector<std::string> numbers;
