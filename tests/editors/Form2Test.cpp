@@ -7,13 +7,13 @@
 #include "support/Failures.h"
 #include "support/FixtureRom.h"
 #include "support/MainSession.h"
-#include "text/HexBytes.h"
+#include "support/FixtureRom.h"
 
 namespace tessarine {
 namespace {
 
 using test::ByteOracle;
-using test::ReadWholeFile;
+
 
 // The game opened and the form loaded, rows picked; then another tool writes AA AA over the
 // three words, so that the oracle sees every word that "Save" writes.
@@ -87,7 +87,7 @@ TEST(Form2Test, ReloadShowsAnotherToolsWriteAndSaveChecksBeforeItWrites) {
   EXPECT_EQ(test::FailureOf([&] { PressSave(form, s.form, s.rom, s.dialogs); }),
             "Ball 3: \"&H590C0C\": its species, 2 bytes from &H590C0C, would run past the end of the ROM, which "
             "is &H590C0D bytes long. No starter was written.");
-  EXPECT_EQ(ReadWholeFile(shortEmerald.path()), shortEmerald.image());
+  EXPECT_EQ(test::ByteOracle(shortEmerald.path()).Now(), shortEmerald.image());
 }
 
 }  // namespace

@@ -9,32 +9,24 @@
 namespace tessarine {
 namespace {
 
-using test::ScriptedDialogs;
-using ::testing::ElementsAre;
+using Window = test::ScriptedDialogs::WindowEvent;
 
-using Window = ScriptedDialogs::WindowEvent;
-
-TEST(Form9Test, ContinueKeepsBothTextsAsTypedAndBringsTheMainWindowBack) {
-  Form1 main;
-  Form9 form;
-  ScriptedDialogs dialogs;
-  form.Text1.text = "&H245EE0";
-  form.Text2.text = "not a number";  // kept as it stands: its use is what parses it
-  PressContinue(form, main, dialogs);
-  EXPECT_EQ(main.Label20, "&H245EE0");
-  EXPECT_EQ(main.itemRecords, "not a number");
-  EXPECT_EQ(main.rom, "crap");
-  EXPECT_THAT(dialogs.windowEvents, ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
-}
-
-TEST(Form9Test, QuitKeepsNothingAndBringsTheMainWindowBack) {
-  Form1 main;
-  Form9 form;
-  ScriptedDialogs dialogs;
-  form.Text1.text = "&H1";
-  PressQuit(form, dialogs);
-  EXPECT_EQ(main.Label20, "&H1F716C");
-  EXPECT_THAT(dialogs.windowEvents, ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
+// Continue keeps both texts as typed (their use is what parses them); Quit keeps nothing.
+// Both bring the main window back.
+TEST(Form9Test, ContinueKeepsBothTextsAndQuitNothing) {
+  for (const bool keep : {true, false}) {
+    Form1 main;
+    Form9 form;
+    test::ScriptedDialogs dialogs;
+    form.Text1.text = "&H245EE0";
+    form.Text2.text = "not a number";
+    keep ? PressContinue(form, main, dialogs) : PressQuit(form, dialogs);
+    EXPECT_EQ(main.Label20, keep ? "&H245EE0" : "&H1F716C");
+    EXPECT_EQ(main.itemRecords, keep ? "not a number" : "");
+    EXPECT_EQ(main.rom, "crap");
+    EXPECT_THAT(dialogs.windowEvents,
+                testing::ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
+  }
 }
 
 }  // namespace

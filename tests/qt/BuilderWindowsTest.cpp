@@ -12,7 +12,7 @@
 #include "support/EventFixtures.h"
 #include "support/ScriptedDialogs.h"
 #include "support/WidgetDriver.h"
-#include "text/HexBytes.h"
+#include "support/FixtureRom.h"
 
 namespace tessarine {
 namespace {

@@ -11,7 +11,7 @@
 #include "support/Failures.h"
 #include "support/FixtureRom.h"
 #include "support/ScriptedDialogs.h"
-#include "text/HexBytes.h"
+#include "support/FixtureRom.h"
 
 namespace tessarine {
 namespace {

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <fstream>
 #include <ostream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "rom/Bytes.h"
+#include "rom/FilePath.h"
 
 namespace tessarine::test {
 
@@ -15,25 +19,48 @@ struct ByteRange {
   std::size_t length;
   bool operator==(const ByteRange&) const = default;
 };
-std::ostream& operator<<(std::ostream& out, const ByteRange& range);
+inline std::ostream& operator<<(std::ostream& out, const ByteRange& range) {
+  return out << "{0x" << std::hex << range.offset << std::dec << ", " << range.length << "}";
+}
 
 // Proves what an action wrote: take a snapshot of the whole file before it, then ask
 // which bytes differ after it. Changes() joins neighbouring changed bytes into ranges,
 // so a test states the exact set of ranges it expects and nothing else may differ.
 class ByteOracle {
  public:
-  explicit ByteOracle(std::string path);
+  explicit ByteOracle(std::string path) : path_(std::move(path)), before_(Now()) {}
 
-  std::vector<ByteRange> Changes() const;
-  // The file's bytes as they are now.
-  Bytes Now() const;
-  const Bytes& before() const { return before_; }
+  std::vector<ByteRange> Changes() const {
+    const Bytes after = Now();
+    std::vector<ByteRange> ranges;
+    const std::size_t common = std::min(before_.size(), after.size());
+    for (std::size_t i = 0; i < common; ++i) {
+      if (before_[i] == after[i]) continue;
+      if (!ranges.empty() && ranges.back().offset + ranges.back().length == i) {
+        ++ranges.back().length;
+      } else {
+        ranges.push_back({i, 1});
+      }
+    }
+    // A file that grew or shrank differs in every byte beyond the shorter length.
+    const std::size_t longer = std::max(before_.size(), after.size());
+    if (longer > common) ranges.push_back({common, longer - common});
+    return ranges;
+  }
+
+  // The file's bytes as they are now, read through a handle of the oracle's own.
+  Bytes Now() const {
+    std::ifstream in(ToFilePath(path_), std::ios::binary | std::ios::ate);
+    Bytes bytes(in ? static_cast<std::size_t>(in.tellg()) : 0);
+    in.seekg(0);
+    in.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    if (!in) throw std::runtime_error("cannot read " + path_);
+    return bytes;
+  }
 
  private:
   std::string path_;
   Bytes before_;
 };
-
-Bytes ReadWholeFile(const std::string& path);
 
 }  // namespace tessarine::test

@@ -1,13 +1,67 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <filesystem>
+#include <fstream>
+#include <random>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
+
 #include "rom/Bytes.h"
+#include "rom/FilePath.h"
 
 namespace tessarine::test {
+
+// Bytes written as in a hex dump, "6A 5A 02", both ways, so that a failing comparison of
+// bytes reads like a dump.
+inline Bytes FromHex(std::string_view hex) {
+  Bytes bytes;
+  for (std::size_t at = 0; at + 1 < hex.size(); at += 3) {
+    bytes.push_back(static_cast<std::uint8_t>(std::stoi(std::string(hex.substr(at, 2)), nullptr, 16)));
+  }
+  return bytes;
+}
+inline std::string ToHex(const Bytes& bytes) {
+  static constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string hex;
+  for (const std::uint8_t byte : bytes) {
+    if (!hex.empty()) hex += ' ';
+    hex += {kDigits[byte >> 4], kDigits[byte & 0xF]};
+  }
+  return hex;
+}
+
+// The game-text bytes of a name made of letters, digits and blanks. Only the letters, digits
+// and blank of the cartridge's Western table are known here, on purpose: the tests do not use
+// the system's own encoder to make what its decoder reads.
+inline Bytes GameTextOf(std::string_view ascii) {
+  Bytes bytes;
+  for (const char c : ascii) {
+    if (c >= 'A' && c <= 'Z') {
+      bytes.push_back(static_cast<std::uint8_t>(0xBB + (c - 'A')));
+    } else if (c >= 'a' && c <= 'z') {
+      bytes.push_back(static_cast<std::uint8_t>(0xD5 + (c - 'a')));
+    } else if (c >= '0' && c <= '9') {
+      bytes.push_back(static_cast<std::uint8_t>(0xA1 + (c - '0')));
+    } else if (c == ' ') {
+      bytes.push_back(0x00);
+    } else {
+      throw std::invalid_argument("GameTextOf knows letters, digits and blanks only");
+    }
+  }
+  return bytes;
+}
+
+// A path for a temporary file of the test's own, unique in this run.
+inline std::filesystem::path TemporaryPath(std::string_view stem) {
+  static std::atomic<int> counter{0};
+  static const std::string run = std::to_string(std::random_device{}());  // apart from other test processes
+  return std::filesystem::temp_directory_path() /
+         ("tessarine-" + run + "-" + std::to_string(counter++) + "-" + std::string(stem));
+}
 
 // A ROM image made by the tests: 16 MiB of 0xFF with a chosen game code in the header,
 // and whatever a test puts at its offsets. Nothing in it comes from a real game. The
@@ -17,9 +71,20 @@ class FixtureRom {
  public:
   static constexpr std::size_t kSize = 16 * 1024 * 1024;
 
-  explicit FixtureRom(std::string_view gameCode, std::size_t size = kSize);
-  ~FixtureRom();
-  FixtureRom(FixtureRom&& other) noexcept;
+  explicit FixtureRom(std::string_view gameCode, std::size_t size = kSize)
+      : image_(size, 0xFF), path_(TemporaryPath("fixture.gba")) {
+    for (std::size_t i = 0; i < gameCode.size() && 0xAC + i < size; ++i) {
+      image_[0xAC + i] = static_cast<std::uint8_t>(gameCode[i]);
+    }
+  }
+  ~FixtureRom() {
+    std::error_code ignored;
+    if (!path_.empty()) std::filesystem::remove(path_, ignored);
+  }
+  FixtureRom(FixtureRom&& other) noexcept
+      : image_(std::move(other.image_)), path_(std::move(other.path_)), dirty_(other.dirty_) {
+    other.path_.clear();
+  }
   FixtureRom(const FixtureRom&) = delete;
   FixtureRom& operator=(const FixtureRom&) = delete;
   FixtureRom& operator=(FixtureRom&&) = delete;
@@ -32,30 +97,45 @@ class FixtureRom {
   // A file that ends before the header's game code is complete.
   static FixtureRom TooShort() { return FixtureRom("", 0xAE); }
 
-  FixtureRom& PutBytes(std::size_t offset, const Bytes& bytes);
-  FixtureRom& PutByte(std::size_t offset, std::uint8_t value);
-  FixtureRom& PutWord(std::size_t offset, std::uint16_t value);
-  FixtureRom& PutLong(std::size_t offset, std::uint32_t value);
-  // A name in game text, padded with `pad` to `fieldLength` bytes. Only the letters,
-  // digits and blank of the cartridge's Western table are known here, on purpose: the
-  // tests do not use the system's own encoder to make what its decoder reads.
-  FixtureRom& PutName(std::size_t offset, std::string_view ascii, std::size_t fieldLength,
-                      std::uint8_t pad = 0xFF);
+  FixtureRom& PutBytes(std::size_t offset, const Bytes& bytes) {
+    if (offset + bytes.size() > image_.size()) throw std::out_of_range("fixture put past the end of the image");
+    std::copy(bytes.begin(), bytes.end(), image_.begin() + static_cast<std::ptrdiff_t>(offset));
+    dirty_ = true;
+    return *this;
+  }
+  FixtureRom& PutByte(std::size_t offset, std::uint8_t value) { return PutBytes(offset, {value}); }
+  FixtureRom& PutWord(std::size_t offset, std::uint16_t value) { return PutLittleEndian(offset, value, 2); }
+  FixtureRom& PutLong(std::size_t offset, std::uint32_t value) { return PutLittleEndian(offset, value, 4); }
+  // A name in game text (GameTextOf), padded with `pad` to `fieldLength` bytes.
+  FixtureRom& PutName(std::size_t offset, std::string_view ascii, std::size_t fieldLength, std::uint8_t pad = 0xFF) {
+    Bytes field = GameTextOf(ascii);
+    if (field.size() > fieldLength) throw std::invalid_argument("fixture name longer than its field");
+    field.resize(fieldLength, pad);
+    return PutBytes(offset, field);
+  }
 
   const Bytes& image() const { return image_; }
   // The file, written anew when the image has changed since the last call.
-  std::string path();
+  std::string path() {
+    if (dirty_) {
+      std::ofstream out(path_, std::ios::binary | std::ios::trunc);
+      out.write(reinterpret_cast<const char*>(image_.data()), static_cast<std::streamsize>(image_.size()));
+      if (!out) throw std::runtime_error("could not write the fixture ROM " + ToPathText(path_));
+      dirty_ = false;
+    }
+    return ToPathText(path_);
+  }
 
  private:
+  FixtureRom& PutLittleEndian(std::size_t offset, std::uint32_t value, std::size_t width) {
+    Bytes bytes(width);
+    for (std::size_t i = 0; i < width; ++i) bytes[i] = static_cast<std::uint8_t>(value >> (8 * i));
+    return PutBytes(offset, bytes);
+  }
+
   Bytes image_;
   std::filesystem::path path_;
   bool dirty_ = true;
 };
-
-// The game-text bytes of a name made of letters, digits and blanks.
-Bytes GameTextOf(std::string_view ascii);
-
-// A path for a temporary file of the test's own, unique in this run.
-std::filesystem::path TemporaryPath(std::string_view stem);
 
 }  // namespace tessarine::test

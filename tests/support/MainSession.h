@@ -2,9 +2,13 @@
 
 #include <string>
 
+#include "events/EventSelection.h"
+#include "events/PersonRecord.h"
 #include "forms/Form1.h"
 #include "rom/RomImage.h"
+#include "shell/OpenRom.h"
 #include "shell/Session.h"
+#include "support/Failures.h"
 #include "support/ScriptedDialogs.h"
 
 namespace tessarine::test {
@@ -19,13 +23,24 @@ struct MainSession {
   ScriptedDialogs dialogs;
 
   // The Open button, with `path` chosen in the file dialog ("" cancels it).
-  void Open(const std::string& path);
+  void Open(const std::string& path) {
+    dialogs.openFileAnswers.push_back(path);
+    OpenRom(form, rom, dialogs);
+  }
   // Picks an event in the list that the open ROM's family shows.
-  void PickEvent(int index);
+  void PickEvent(int index) {
+    if (form.cowmoo == "rs") {
+      SetCombo3Selection(form, rom, dialogs, index);
+    } else {
+      SetCombo4Selection(form, rom, dialogs, index);
+    }
+  }
   // The Save button.
-  void Save();
+  void Save() { SavePerson(form, rom, dialogs); }
   // The sentence of the failure that ends a save, or "" when the save runs through.
-  std::string SaveFailure();
+  std::string SaveFailure() {
+    return FailureOf([this] { Save(); });
+  }
 };
 
 }  // namespace tessarine::test

@@ -45,14 +45,40 @@ class ScriptedDialogs : public Dialogs {
   std::vector<std::string> programsStarted;
 
   // The texts of the messages shown so far, in order.
-  std::vector<std::string> MessageTexts() const;
+  std::vector<std::string> MessageTexts() const {
+    std::vector<std::string> texts;
+    for (const MessageShown& m : messages) texts.push_back(m.text);
+    return texts;
+  }
 
-  MessageAnswer Message(std::string_view text, MessageButtons buttons, std::string_view title) override;
-  std::optional<std::string> Input(std::string_view prompt, std::string_view title) override;
-  std::string OpenFile(std::string_view title, std::string_view filter) override;
-  void Show(WindowName window) override;
-  void Hide(WindowName window) override;
-  bool StartProgram(std::string_view name) override;
+  MessageAnswer Message(std::string_view text, MessageButtons buttons, std::string_view title) override {
+    messages.push_back({std::string(text), std::string(title), buttons});
+    return Next(messageAnswers, buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::No);
+  }
+  std::optional<std::string> Input(std::string_view prompt, std::string_view title) override {
+    inputs.push_back({std::string(prompt), std::string(title)});
+    return Next(inputAnswers, std::optional<std::string>());
+  }
+  std::string OpenFile(std::string_view title, std::string_view filter) override {
+    fileDialogs.push_back({std::string(title), std::string(filter)});
+    return Next(openFileAnswers, std::string());
+  }
+  void Show(WindowName window) override { windowEvents.push_back({window, true}); }
+  void Hide(WindowName window) override { windowEvents.push_back({window, false}); }
+  bool StartProgram(std::string_view name) override {
+    programsStarted.emplace_back(name);
+    return programsStart;
+  }
+
+ private:
+  // The first queued answer, taken from the queue, or `otherwise` when none is left.
+  template <typename Answer>
+  static Answer Next(std::deque<Answer>& queue, Answer otherwise) {
+    if (queue.empty()) return otherwise;
+    Answer answer = std::move(queue.front());
+    queue.pop_front();
+    return answer;
+  }
 };
 
 }  // namespace tessarine::test
