@@ -79,6 +79,7 @@ TEST(MapViewTest, APressNamesTheTileUnderItAndPutsTheMarkersOnItsCorner) {
   for (const auto& [px, py, x, y, left, top] : cases) {
     SCOPED_TRACE(std::to_string(px) + "," + std::to_string(py));
     Form8 form = TwentyByTwenty();
+    SetMapSizeText(form, T1, "300");  // 4800 pixels: room for a tile beyond 255
     PointerMoved(form, px, py);
     EXPECT_EQ(form.XXt.text, "&H00");  // a move names no landing
     PointerPressed(form, px, py);
@@ -88,6 +89,23 @@ TEST(MapViewTest, APressNamesTheTileUnderItAndPutsTheMarkersOnItsCorner) {
     }
     EXPECT_TRUE(form.Image1.visible);
     EXPECT_FALSE(form.Shape2.visible);  // shown only by a load
+  }
+}
+
+// While a button is held the surface is handed every move and press, also those beyond its
+// edges: they name no tile and move no marker.
+TEST(MapViewTest, APointerOffTheSurfaceNamesNoTile) {
+  const std::pair<int, int> off[] = {{-1, 5}, {5, -20}, {320, 5}, {5, 320}};
+  for (const auto& [px, py] : off) {
+    SCOPED_TRACE(std::to_string(px) + "," + std::to_string(py));
+    Form8 form = TwentyByTwenty();
+    PointerPressed(form, 40, 40);
+    PointerMoved(form, px, py);
+    PointerPressed(form, px, py);
+    EXPECT_EQ(form.XXt.text + form.YYt.text, "&H2&H2");
+    for (const Marker* m : {&form.Shape1, &form.Shape2, &form.Image1}) {
+      EXPECT_EQ(std::pair(m->Left, m->Top), std::pair(32, 32));
+    }
   }
 }
 
