@@ -12,6 +12,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <cmath>
 
 #include "flyland/Form8.h"
 #include "flyland/MapImages.h"
@@ -69,6 +70,12 @@ void Sync(QScrollBar* widget, const ScrollBar& bar) {
   widget->setValue(bar.Value);
 }
 
+// The pixel the pointer stands in. On a scaled desktop a position falls between pixels, and
+// it lies in the one left of and above it: rounding would give the next tile at its edge.
+QPoint PixelAt(const QPointF& at) {
+  return {static_cast<int>(std::floor(at.x())), static_cast<int>(std::floor(at.y()))};
+}
+
 QLabel* MarkerLabel(QWidget* surface, const char* name, const QPixmap& picture) {
   auto* marker = Named(new QLabel(surface), name);
   marker->setPixmap(picture);
@@ -93,9 +100,9 @@ void MapSurfaceWidget::SetPicture(const QImage& picture) {
 
 void MapSurfaceWidget::paintEvent(QPaintEvent*) { QPainter(this).drawImage(0, 0, picture_); }
 
-void MapSurfaceWidget::mouseMoveEvent(QMouseEvent* event) { moved_(event->position().toPoint()); }
+void MapSurfaceWidget::mouseMoveEvent(QMouseEvent* event) { moved_(PixelAt(event->position())); }
 
-void MapSurfaceWidget::mousePressEvent(QMouseEvent* event) { pressed_(event->position().toPoint()); }
+void MapSurfaceWidget::mousePressEvent(QMouseEvent* event) { pressed_(PixelAt(event->position())); }
 
 Form8Window::Form8Window(QtShell& shell, Form8& form) : shell_(shell), form_(form) {
   setObjectName("Form8");
