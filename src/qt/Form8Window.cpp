@@ -17,6 +17,7 @@
 #include "flyland/Form8.h"
 #include "flyland/MapImages.h"
 #include "flyland/MapView.h"
+#include "qt/ControlSync.h"
 #include "qt/QtArtwork.h"
 #include "qt/QtShell.h"
 #include "qt/WingfallArtwork.h"
@@ -30,23 +31,6 @@ template <typename W>
 W* Named(W* widget, const char* name) {
   widget->setObjectName(name);
   return widget;
-}
-
-void Sync(QLineEdit* widget, const TextBox& box) {
-  if (widget->text() != Q(box.text)) widget->setText(Q(box.text));
-  widget->setEnabled(box.enabled);
-  widget->setVisible(box.visible);
-}
-
-void Sync(QPushButton* widget, const Button& button) {
-  widget->setText(Q(button.caption));
-  widget->setEnabled(button.enabled);
-  widget->setVisible(button.visible);
-}
-
-void Sync(QLabel* widget, const Label& label) {
-  widget->setText(Q(label.caption));
-  widget->setVisible(label.visible);
 }
 
 // The rows never change; what does is the row on show and, with none, the text shown.
