@@ -29,8 +29,7 @@ std::vector<std::string> LocationRows(LocationListName list) {
 
 void LoadForm8(Form8& form, std::string_view headtxt, Dialogs& dialogs) {
   form.Image1.visible = false;
-  SetMapSizeText(form, MapSizeField::Text1, ToHexText(std::int32_t{form.Picture2.Width / kTilePixels}));
-  SetMapSizeText(form, MapSizeField::Text2, ToHexText(std::int32_t{form.Picture2.Height / kTilePixels}));
+  SetMapSizeFromSurface(form);
 
   const FlyTable* table = FindFlyTable(headtxt);
   if (table == nullptr) {

@@ -31,9 +31,11 @@ inline constexpr int kViewportWidth = 324;
 inline constexpr int kViewportHeight = 325;
 
 inline constexpr int kTilePixels = 16;
-// The surface's largest side: 2047 tiles, the farthest that the 16-bit scroll offset
-// (value x 16) reaches. A size beyond it is refused like a negative one.
-inline constexpr int kMaxSurfaceTiles = 2047;
+// The surface's largest side: 4094 tiles. A bar scrolls by half the tile count, and its
+// offset (Value x 16) is worked out in 16 bits, so 4094 tiles, Value 2047, is the largest
+// map whose every scroll position can be shown. A size beyond it is refused like a
+// negative one.
+inline constexpr int kMaxSurfaceTiles = 4094;
 inline constexpr int kMaxSurfaceSide = kMaxSurfaceTiles * kTilePixels;
 
 // Picture2, the map surface: the picture drawn unscaled at its top left corner, its own

@@ -23,12 +23,6 @@ std::string TilesText(int pixels) {
   return ToHexText(static_cast<std::int32_t>(RoundHalfEven(pixels, kTilePixels)));
 }
 
-// The size fields take the surface's size in tiles; the size rule runs for each.
-void SetMapSizeFromSurface(Form8& form) {
-  SetMapSizeText(form, MapSizeField::Text1, TilesText(form.Picture2.Width));
-  SetMapSizeText(form, MapSizeField::Text2, TilesText(form.Picture2.Height));
-}
-
 void TakeNewPicture(Form8& form, const std::optional<PictureSize>& picture) {
   if (picture) ShowMapPicture(form, MapPicture::Brought, *picture);
   SetMapSizeFromSurface(form);
@@ -36,6 +30,11 @@ void TakeNewPicture(Form8& form, const std::optional<PictureSize>& picture) {
 }
 
 }  // namespace
+
+void SetMapSizeFromSurface(Form8& form) {
+  SetMapSizeText(form, MapSizeField::Text1, TilesText(form.Picture2.Width));
+  SetMapSizeText(form, MapSizeField::Text2, TilesText(form.Picture2.Height));
+}
 
 int HundredthsOfMillimetre(int pixels) {
   return static_cast<int>(RoundHalfEven(std::int64_t{pixels} * 2540, 96));

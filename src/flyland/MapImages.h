@@ -28,6 +28,10 @@ inline constexpr const char* kMapImageFilter = "Bitmap|*.bmp|Gif|*.gif|Jpeg|*.jp
 // whole number, a half to the even one.
 int HundredthsOfMillimetre(int pixels);
 
+// Text1 and Text2 take the surface's width and height in tiles, each rounded half to even,
+// and the size rule runs for each: the window's opening, and step 3 of the fit rule.
+void SetMapSizeFromSurface(Form8& form);
+
 // The surface gets a new picture, and the fit rule runs.
 void ShowMapPicture(Form8& form, MapPicture picture, PictureSize size);
 

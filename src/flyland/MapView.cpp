@@ -27,6 +27,12 @@ int MarkerPixel(std::int64_t tile) {
   return static_cast<int>(std::clamp<std::int64_t>(tile * kTilePixels, -kOutOfSight, kOutOfSight));
 }
 
+// Whether a pointer position lies on the surface. While a button is held the toolkit hands
+// the surface every move and press, also those beyond its edges, and those name no tile.
+bool OnSurface(const Form8& form, int px, int py) {
+  return px >= 0 && py >= 0 && px < form.Picture2.Width && py < form.Picture2.Height;
+}
+
 ScrollBar& Bar(Form8& form, ScrollBarName bar) {
   return bar == ScrollBarName::HScroll1 ? form.HScroll1 : form.VScroll1;
 }
@@ -92,12 +98,14 @@ void ScrollMap(Form8& form, ScrollBarName bar) {
 }
 
 void PointerMoved(Form8& form, int px, int py) {
+  if (!OnSurface(form, px, py)) return;
   form.Shape1.Left = px / kTilePixels * kTilePixels;
   form.Shape1.Top = py / kTilePixels * kTilePixels;
   form.Shape1.visible = true;
 }
 
 void PointerPressed(Form8& form, int px, int py) {
+  if (!OnSurface(form, px, py)) return;
   PointerMoved(form, px, py);
   form.XXt.text = ToHexText(std::int32_t{px / kTilePixels});
   form.YYt.text = ToHexText(std::int32_t{py / kTilePixels});

@@ -41,7 +41,9 @@ void SetScrollValue(Form8& form, ScrollBarName bar, int value);
 // the product does not fit and the surface stays where it stood.
 void ScrollMap(Form8& form, ScrollBarName bar);
 
-// The pointer over surface pixel (px, py): Shape1 goes to the tile's corner and shows.
+// The pointer over surface pixel (px, py): Shape1 goes to the tile's corner and shows. A
+// pixel off the surface (px or py below 0, or beyond Width or Height) names no tile, here
+// and in a press.
 void PointerMoved(Form8& form, int px, int py);
 
 // A press at surface pixel (px, py), any button: the tile becomes XXt and YYt (nothing

@@ -12,10 +12,12 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <cmath>
 
 #include "flyland/Form8.h"
 #include "flyland/MapImages.h"
 #include "flyland/MapView.h"
+#include "qt/ControlSync.h"
 #include "qt/QtArtwork.h"
 #include "qt/QtShell.h"
 #include "qt/WingfallArtwork.h"
@@ -29,23 +31,6 @@ template <typename W>
 W* Named(W* widget, const char* name) {
   widget->setObjectName(name);
   return widget;
-}
-
-void Sync(QLineEdit* widget, const TextBox& box) {
-  if (widget->text() != Q(box.text)) widget->setText(Q(box.text));
-  widget->setEnabled(box.enabled);
-  widget->setVisible(box.visible);
-}
-
-void Sync(QPushButton* widget, const Button& button) {
-  widget->setText(Q(button.caption));
-  widget->setEnabled(button.enabled);
-  widget->setVisible(button.visible);
-}
-
-void Sync(QLabel* widget, const Label& label) {
-  widget->setText(Q(label.caption));
-  widget->setVisible(label.visible);
 }
 
 // The rows never change; what does is the row on show and, with none, the text shown.
@@ -67,6 +52,12 @@ void Sync(QLabel* widget, const Marker& marker) {
 void Sync(QScrollBar* widget, const ScrollBar& bar) {
   widget->setRange(0, bar.Max);
   widget->setValue(bar.Value);
+}
+
+// The pixel the pointer stands in. On a scaled desktop a position falls between pixels, and
+// it lies in the one left of and above it: rounding would give the next tile at its edge.
+QPoint PixelAt(const QPointF& at) {
+  return {static_cast<int>(std::floor(at.x())), static_cast<int>(std::floor(at.y()))};
 }
 
 QLabel* MarkerLabel(QWidget* surface, const char* name, const QPixmap& picture) {
@@ -93,9 +84,9 @@ void MapSurfaceWidget::SetPicture(const QImage& picture) {
 
 void MapSurfaceWidget::paintEvent(QPaintEvent*) { QPainter(this).drawImage(0, 0, picture_); }
 
-void MapSurfaceWidget::mouseMoveEvent(QMouseEvent* event) { moved_(event->position().toPoint()); }
+void MapSurfaceWidget::mouseMoveEvent(QMouseEvent* event) { moved_(PixelAt(event->position())); }
 
-void MapSurfaceWidget::mousePressEvent(QMouseEvent* event) { pressed_(event->position().toPoint()); }
+void MapSurfaceWidget::mousePressEvent(QMouseEvent* event) { pressed_(PixelAt(event->position())); }
 
 Form8Window::Form8Window(QtShell& shell, Form8& form) : shell_(shell), form_(form) {
   setObjectName("Form8");

@@ -36,7 +36,7 @@ TEST(MapViewTest, ASizeFieldSetsItsSideWhenItIsANumberAndTheScrollRangesAlways) 
       {T1, "21", 336, 320, "21/20", 10, 10}, {T1, "23", 368, 320, "23/20", 12, 10},
       {T1, "abc", 320, 320, "0/20", 0, 10}, {T1, "12x", 320, 320, "12/20", 6, 10},
       {T1, "&H", 320, 320, "0/20", 0, 10}, {T1, "0", 0, 320, "0/20", 0, 10}, {T1, "-4", 320, 320, "-4/20", 0, 10},
-      {T1, "2047", 32752, 320, "2047/20", 1024, 10}, {T1, "2048", 320, 320, "2048/20", 1024, 10},
+      {T1, "4094", 65504, 320, "4094/20", 2047, 10}, {T1, "4095", 320, 320, "4095/20", 2048, 10},
       {T1, "65534", 320, 320, "65534/20", 32767, 10},
       {T1, "65535", 320, 320, "65535/20", 10, 10},  // a half beyond 16 bits: Max stays
       {T2, "&H1E", 320, 480, "20/30", 10, 15}, {T2, "&H7", 320, 112, "20/7", 10, 4},
@@ -79,6 +79,7 @@ TEST(MapViewTest, APressNamesTheTileUnderItAndPutsTheMarkersOnItsCorner) {
   for (const auto& [px, py, x, y, left, top] : cases) {
     SCOPED_TRACE(std::to_string(px) + "," + std::to_string(py));
     Form8 form = TwentyByTwenty();
+    SetMapSizeText(form, T1, "300");  // 4800 pixels: room for a tile beyond 255
     PointerMoved(form, px, py);
     EXPECT_EQ(form.XXt.text, "&H00");  // a move names no landing
     PointerPressed(form, px, py);
@@ -88,6 +89,23 @@ TEST(MapViewTest, APressNamesTheTileUnderItAndPutsTheMarkersOnItsCorner) {
     }
     EXPECT_TRUE(form.Image1.visible);
     EXPECT_FALSE(form.Shape2.visible);  // shown only by a load
+  }
+}
+
+// While a button is held the surface is handed every move and press, also those beyond its
+// edges: they name no tile and move no marker.
+TEST(MapViewTest, APointerOffTheSurfaceNamesNoTile) {
+  const std::pair<int, int> off[] = {{-1, 5}, {5, -20}, {320, 5}, {5, 320}};
+  for (const auto& [px, py] : off) {
+    SCOPED_TRACE(std::to_string(px) + "," + std::to_string(py));
+    Form8 form = TwentyByTwenty();
+    PointerPressed(form, 40, 40);
+    PointerMoved(form, px, py);
+    PointerPressed(form, px, py);
+    EXPECT_EQ(form.XXt.text + form.YYt.text, "&H2&H2");
+    for (const Marker* m : {&form.Shape1, &form.Shape2, &form.Image1}) {
+      EXPECT_EQ(std::pair(m->Left, m->Top), std::pair(32, 32));
+    }
   }
 }
 

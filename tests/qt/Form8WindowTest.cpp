@@ -5,10 +5,12 @@
 
 #include <QClipboard>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
@@ -76,6 +78,13 @@ TEST(Form8WindowTest, ClicksOnTheScrolledMapReachTheRecordAndTheSaveReachesTheFi
   EXPECT_THAT(oracle.Changes(), ElementsAre(ByteRange{kCinnabar + 4, 1}, ByteRange{kCinnabar + 6, 1}));
   EXPECT_EQ(oracle.Now()[kCinnabar + 4], 6);
   EXPECT_EQ(oracle.Now()[kCinnabar + 6], 2);
+
+  // On a scaled desktop the pointer stands between pixels: at 127.9 it is in pixel 127, tile 7.
+  QWidget* surface = find("Picture2");
+  QMouseEvent between(QEvent::MouseButtonPress, QPointF(127.9, 63.9), surface->mapToGlobal(QPointF(127.9, 63.9)),
+                      Qt::LeftButton, Qt::LeftButton, {});
+  QCoreApplication::sendEvent(surface, &between);
+  EXPECT_EQ(text("XXt") + text("YYt"), "&H7&H3");
 
   // Pictures: a BMP file, one too large to decode (refused, no message, the size fields
   // reset all the same), a bitmap on the clipboard, then an empty clipboard.
