@@ -22,7 +22,7 @@ bool ShootBrailleInserter(const QDir& dir) {
   QtShell shell(dialogs);
   shell.rom().Open(fixture.path());
   shell.form1().rom = "Loaded";
-  shell.Run([&] { RunMenuEntry(MenuEntry::mnuib, shell.form1(), shell.rom(), shell.dialogs()); });
+  shell.Run([&] { RunMenuEntry(MenuEntry::mnuib, shell.session(), shell.dialogs()); });
   QWidget* window = shell.Window(WindowName::Form6);
   if (window == nullptr) return false;
   test::Type(window->findChild<QLineEdit*>("Text2"), "&H700000");

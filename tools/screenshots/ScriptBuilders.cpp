@@ -33,7 +33,7 @@ bool ShootScriptBuilders(const QDir& dir) {
                         {MenuEntry::mnugps, WindowName::Form5, "give-pokemon.png"}};
   bool ok = true;
   for (const Shot& shot : shots) {
-    shell.Run([&] { RunMenuEntry(shot.entry, shell.form1(), shell.rom(), shell.dialogs()); });
+    shell.Run([&] { RunMenuEntry(shot.entry, shell.session(), shell.dialogs()); });
     QWidget* form = shell.Window(shot.window);
     if (form == nullptr) return false;
     test::Pick(form->findChild<QComboBox*>("Combo1"), 0x19);

@@ -20,7 +20,7 @@ bool ShootWingfall(const QDir& dir) {
   QtShell shell(dialogs);
   dialogs.openFileAnswers.push_back(fireRed.path());
   shell.Run([&] { OpenRom(shell.form1(), shell.rom(), shell.dialogs()); });
-  shell.Run([&] { RunMenuEntry(MenuEntry::mnuflin, shell.form1(), shell.rom(), shell.dialogs()); });
+  shell.Run([&] { RunMenuEntry(MenuEntry::mnuflin, shell.session(), shell.dialogs()); });
   QWidget* window = shell.Window(WindowName::Form8);
   if (window == nullptr) return false;
   if (!QTest::qWaitForWindowExposed(window)) return false;
