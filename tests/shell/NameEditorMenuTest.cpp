@@ -48,6 +48,8 @@ TEST(NameEditorMenuTest, TheTwoAnswersWriteTheEncodedNameAndNothingElse) {
        "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
       {"BPGE", MenuEntry::mnuediten, "2", "Abcdefghijklmno", {{0x3DAEBC, 14}},
        "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
+      {"BPRE", MenuEntry::mnuediten, "&H2", "ééééééééééééééé", {{0x3DB080, 14}},  // cut in characters, not in bytes
+       "1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B"},
       {"BPEJ", MenuEntry::mnuediten, "&H2", "A", {}, "", "", "Item records offset: \"&H24SEE0\" is not",
        {"&H245EE0", "&H24SEE0"}},
   };
