@@ -35,6 +35,9 @@ TEST(Form2WindowTest, TheListsSaveWhatIsPickedAndDoneClosesWithoutWriting) {
   QTest::mouseClick(form->findChild<QPushButton*>("Command1"), Qt::LeftButton);
   QTest::keyClick(ball1, Qt::Key_Return);  // Enter in a closed list presses Save again
   test::Pick(ball1, 0);
+  QTest::mouseClick(form->findChild<QPushButton*>("Command3"), Qt::LeftButton);  // Reload: the stored row again
+  EXPECT_EQ(ball1->currentIndex(), 277);
+  test::Pick(ball1, 0);
   QTest::mouseClick(form->findChild<QPushButton*>("Command2"), Qt::LeftButton);
   QTest::qWait(0);
   EXPECT_EQ(shell.Window(WindowName::Form2), nullptr);
