@@ -117,10 +117,11 @@ void SetCombo3Selection(Form2& form, int index) { Choose(form, kBalls[2], index)
 
 void PressSave(Form2& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
   if (!FindStarterOffsets(main.headtxt)) return;
-  if (form.readAt != main.romOpenings) {
+  // With no ROM open the write's own check says so: no ROM is open now whose starters Reload could read.
+  if (rom.IsOpen() && form.readAt != main.romOpenings) {
     throw Failure(
-        "The starters on show were not read from the ROM that is open now. Press \"Reload\" to read its "
-        "starters. Nothing was saved.");
+        "The lists were filled before the last Open ROM. Press \"Reload\" to read the starters of the ROM "
+        "that is open now. Nothing was saved.");
   }
   Starters values{};
   try {

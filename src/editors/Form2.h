@@ -75,8 +75,9 @@ void SetCombo2Selection(Form2& form, int index);
 void SetCombo3Selection(Form2& form, int index);
 
 // "Save": writes the three values of the open game's starters and says "Saved". Does
-// nothing, and says nothing, for a game with no starter offsets. Refuses values that were
-// read before the last Open ROM, and a ROM too short to hold them, before any write.
+// nothing, and says nothing, for a game with no starter offsets. Refuses lists that were
+// filled before the last Open ROM, no open ROM, and a ROM too short to hold the starters,
+// before any write.
 void PressSave(Form2& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
 
 // "Done": closes the form; writes nothing.

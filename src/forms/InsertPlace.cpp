@@ -9,6 +9,8 @@
 namespace tessarine {
 namespace {
 
+constexpr RomOffset kLastRomOffset = INT32_MAX;
+
 std::string FieldAndText(std::string_view field, std::string_view text) {
   return std::string(field) + ": \"" + std::string(text) + "\"";
 }
@@ -33,12 +35,18 @@ RomOffset ParseInsertOffset(std::string_view text, std::string_view field) {
 void RequireInsideRom(RomImage& rom, std::int64_t at, std::int64_t length, std::string_view what,
                       std::string_view field, std::string_view text) {
   if (!rom.IsOpen()) throw Failure("No ROM is open. Open a ROM first.");
-  if (rom.Holds(at, length)) return;
-  const std::string where = at < 0 ? ", would lie before the start of the ROM."
-                                   : ", would run past the end of the ROM, which is " + HexNumber(rom.Length()) +
-                                         " bytes long.";
-  throw Failure(FieldAndText(field, text) + ": " + std::string(what) + ", " + std::to_string(length) +
-                " bytes from " + HexNumber(at) + where);
+  const auto refuse = [&](const std::string& where) {
+    return Failure(FieldAndText(field, text) + ": " + std::string(what) + ", " + std::to_string(length) +
+                   " bytes from " + HexNumber(at) + where);
+  };
+  if (rom.Holds(at, length)) {
+    // A device has no end; the place must still be one that an offset names, or the write
+    // would land where the offset wraps to.
+    if (at + length - 1 <= kLastRomOffset) return;
+    throw refuse(", would lie beyond " + ToHexText(kLastRomOffset) + ", the last offset of a ROM.");
+  }
+  throw refuse(at < 0 ? ", would lie before the start of the ROM."
+                      : ", would run past the end of the ROM, which is " + HexNumber(rom.Length()) + " bytes long.");
 }
 
 }  // namespace tessarine

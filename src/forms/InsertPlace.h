@@ -27,7 +27,8 @@ RomOffset ParseInsertOffset(std::string_view text, std::string_view field);
 // every write meets (RomImage::Holds), so that no write behind it is refused. The sentence
 // names the field and its text, and says what would have gone there (`what`, as "the
 // script"). Also when no ROM is open. `at` is wide, so that a place worked out from a
-// table and an entry number (which may lie anywhere) is tested as it is, never wrapped.
+// table and an entry number (which may lie anywhere) is tested as it is, never wrapped; a
+// place that runs beyond the last offset a ROM can have is refused, on a device too.
 void RequireInsideRom(RomImage& rom, std::int64_t at, std::int64_t length, std::string_view what,
                       std::string_view field, std::string_view text);
 

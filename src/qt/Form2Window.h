@@ -23,6 +23,10 @@ class Form2Window : public QWidget {
   // Copies the record into the widgets, with their signals blocked.
   void Refresh();
 
+ protected:
+  // Enter in a closed list presses "Save", the default button.
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   QtShell& shell_;
   Form2& form_;

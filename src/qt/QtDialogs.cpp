@@ -56,7 +56,10 @@ MessageAnswer QtDialogs::Message(std::string_view text, MessageButtons buttons, 
 
 std::optional<std::string> QtDialogs::Input(std::string_view prompt, std::string_view title) {
   bool ok = false;
-  const QString answer = QInputDialog::getText(Owner(), Q(title), Q(prompt), QLineEdit::Normal, {}, &ok);
+  // The box's label is the buddy of its field, so a single "&" would mark a shortcut key
+  // and not show: "Enter &H and the Hex ..." would read "Enter H and the Hex ...".
+  const QString label = Q(prompt).replace(u'&', QStringLiteral("&&"));
+  const QString answer = QInputDialog::getText(Owner(), Q(title), label, QLineEdit::Normal, {}, &ok);
   if (!ok) return std::nullopt;
   return answer.toStdString();
 }

@@ -9,7 +9,6 @@
 
 #include "qt/Form1Window.h"
 #include "qt/Form2Window.h"
-#include "qt/Form2Window.h"
 #include "qt/Form5Window.h"
 #include "qt/Form6Window.h"
 #include "qt/Form8Window.h"

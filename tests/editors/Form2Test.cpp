@@ -81,13 +81,17 @@ TEST(Form2Test, ReloadShowsAnotherToolsWriteAndSaveChecksBeforeItWrites) {
 
   s.Open(shortEmerald.path());
   EXPECT_EQ(test::FailureOf([&] { PressSave(form, s.form, s.rom, s.dialogs); }),
-            "The starters on show were not read from the ROM that is open now. Press \"Reload\" to read its "
-            "starters. Nothing was saved.");
+            "The lists were filled before the last Open ROM. Press \"Reload\" to read the starters of the ROM that "
+            "is open now. Nothing was saved.");
   LoadForm2(form, s.form, s.rom, s.dialogs);
   EXPECT_EQ(test::FailureOf([&] { PressSave(form, s.form, s.rom, s.dialogs); }),
             "Ball 3: \"&H590C0C\": its species, 2 bytes from &H590C0C, would run past the end of the ROM, which "
             "is &H590C0D bytes long. No starter was written.");
   EXPECT_EQ(test::ByteOracle(shortEmerald.path()).Now(), shortEmerald.image());
+
+  s.Open("");  // cancelled: the game code stays, no ROM is open
+  EXPECT_EQ(test::FailureOf([&] { PressSave(form, s.form, s.rom, s.dialogs); }),
+            "No ROM is open. Open a ROM first. No starter was written.");
 }
 
 }  // namespace

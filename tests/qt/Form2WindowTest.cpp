@@ -33,13 +33,17 @@ TEST(Form2WindowTest, TheListsSaveWhatIsPickedAndDoneClosesWithoutWriting) {
   test::Pick(form->findChild<QComboBox*>("Combo2"), 0x19);
   const test::ByteOracle oracle(ruby.path());
   QTest::mouseClick(form->findChild<QPushButton*>("Command1"), Qt::LeftButton);
+  QTest::keyClick(ball1, Qt::Key_Return);  // Enter in a closed list presses Save again
+  test::Pick(ball1, 0);
+  QTest::mouseClick(form->findChild<QPushButton*>("Command3"), Qt::LeftButton);  // Reload: the stored row again
+  EXPECT_EQ(ball1->currentIndex(), 277);
   test::Pick(ball1, 0);
   QTest::mouseClick(form->findChild<QPushButton*>("Command2"), Qt::LeftButton);
   QTest::qWait(0);
   EXPECT_EQ(shell.Window(WindowName::Form2), nullptr);
   EXPECT_EQ(oracle.Changes(), (std::vector<test::ByteRange>{{0x3F76C6, 2}}));  // Save's only change; Done wrote none
   EXPECT_EQ(oracle.Now()[0x3F76C6], 0x19);
-  EXPECT_EQ(dialogs.MessageTexts(), std::vector<std::string>{"Saved"});
+  EXPECT_EQ(dialogs.MessageTexts(), (std::vector<std::string>{"Saved", "Saved"}));
 }
 
 }  // namespace

@@ -48,6 +48,8 @@ TEST(NameEditorMenuTest, TheTwoAnswersWriteTheEncodedNameAndNothingElse) {
        "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
       {"BPGE", MenuEntry::mnuediten, "2", "Abcdefghijklmno", {{0x3DAEBC, 14}},
        "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
+      {"BPRE", MenuEntry::mnuediten, "&H2", "ééééééééééééééé", {{0x3DB080, 14}},  // cut in characters, not in bytes
+       "1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B"},
       {"BPEJ", MenuEntry::mnuediten, "&H2", "A", {}, "", "", "Item records offset: \"&H24SEE0\" is not",
        {"&H245EE0", "&H24SEE0"}},
   };
@@ -80,6 +82,17 @@ TEST(NameEditorMenuTest, TheTwoAnswersWriteTheEncodedNameAndNothingElse) {
     EXPECT_EQ(session.form1.Combo1.rows[std::size_t(ParseLenient(c.number.value_or("")))], c.row);
     EXPECT_EQ(session.form1.Combo1.selected, 0);
   }
+}
+
+TEST(NameEditorMenuTest, APlaceBeyondTheLastOffsetIsRefusedOnADeviceToo) {
+#ifdef _WIN32
+  GTEST_SKIP() << "Windows has no /dev/zero";
+#endif
+  RomImage rom;
+  rom.Open("/dev/zero");  // a device has no end: every place lies inside it
+  EXPECT_EQ(test::FailureOf([&] { EditPokemonName(rom, "&H10", 0x1745D174, "A"); }),  // &H10 + 11 * entry wraps to 12
+            "Pokemon: \"&H1745D174\": its name in the table at &H10, 11 bytes from 4294967308, would lie beyond "
+            "&H7FFFFFFF, the last offset of a ROM. Nothing was written.");
 }
 
 }  // namespace
