@@ -29,6 +29,7 @@ struct ScriptSession : test::MainSession {
     fixture.PutLong(person + 16, kScript + 0x08000000).PutBytes(kScript, script);
     Open(fixture.path());
   }
+  ~ScriptSession() { rom.Close(); }  // before the fixture goes: Windows deletes no file that is open
 };
 
 // The shape of the wild battles that the builders of this system write, and of Ruby's and

@@ -35,6 +35,7 @@ using Ranges = std::vector<ByteRange>;
 struct Session : test::MainSession {
   FixtureRom fixture;
   explicit Session(FixtureRom rom_) : fixture(std::move(rom_)) { Open(); }
+  ~Session() { rom.Close(); }  // before the fixture goes: Windows deletes no file that is open
   void Open() { MainSession::Open(fixture.path()); }
 };
 
