@@ -3,10 +3,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 
 #include "rom/Failure.h"
+#include "rom/FilePath.h"
 #include "support/ByteOracle.h"
 #include "support/Failures.h"
 #include "support/FixtureRom.h"
@@ -50,7 +53,7 @@ TEST(RomImageTest, EachWriteIsInTheFileBeforeTheCallReturns) {
   const ByteOracle oracle(path);
   RomImage rom;
   rom.Open(path);
-  std::ifstream other(path, std::ios::binary);  // a second handle on the same file
+  std::ifstream other(ToFilePath(path), std::ios::binary);  // a second handle on the same file
   const auto peek = [&](std::size_t offset, std::size_t count) {
     Bytes bytes(count);
     other.clear();
@@ -141,6 +144,30 @@ TEST(RomImageTest, AFileThatCannotBeWrittenOpensReadOnlyAndRefusesWrites) {
   EXPECT_THAT(sentence, HasSubstr("read-only"));
   EXPECT_THAT(sentence, HasSubstr("&H1000"));
   EXPECT_THAT(oracle.Changes(), IsEmpty());
+}
+
+// Lengths and positions have 64 bits on every system (a long has 32 on Windows). The file
+// is sparse: it takes a few blocks of the disk, not 4 GiB.
+TEST(RomImageTest, AFileOfMoreThanFourGibibytesIsMeasuredAndWrittenPastTwo) {
+  const std::filesystem::path big = test::TemporaryPath("big.gba");
+  std::ofstream(big, std::ios::binary).put(0);
+  std::error_code error;
+  std::filesystem::resize_file(big, 0x1'0000'0010, error);
+  if (!error) {
+    RomImage rom;
+    rom.Open(ToPathText(big));
+    EXPECT_EQ(rom.Length(), 0x1'0000'0010);
+    EXPECT_TRUE(rom.Holds(0xFFFF'FFFF, 0x11));
+    EXPECT_FALSE(rom.Holds(0xFFFF'FFFF, 0x12));
+    rom.ReadByte(INT32_MAX);  // the position runs on to 2 GiB
+    rom.WriteLong(0x12345678);
+    std::ifstream other(big, std::ios::binary);
+    Bytes bytes(6);
+    other.seekg(INT32_MAX).read(reinterpret_cast<char*>(bytes.data()), 6);
+    EXPECT_THAT(bytes, ElementsAre(0, 0x78, 0x56, 0x34, 0x12, 0));
+  }
+  std::filesystem::remove(big);
+  if (error) GTEST_SKIP() << "the file system here holds no file of 4 GiB: " << error.message();
 }
 
 TEST(RomImageTest, AWriteTheSystemRefusesIsAFailure) {
