@@ -29,12 +29,18 @@ WINDOWS_BUILD = build/windows
 WINE ?= /usr/lib/wine/wine64
 WINE_ENV = WINEPREFIX=$(CURDIR)/$(WINDOWS_BUILD)/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" DISPLAY=
 
+# Windows deletes no file that is open: a test that drops its fixture before the ROM it
+# opened leaves 16 MiB in the prefix's Temp folder. The run fails if any file is left there.
+WINE_LEFT = find $(WINDOWS_BUILD)/wine/drive_c/users -path '*/Temp/tessarine-*' -prune
+
 test-windows: deps
 	@$(CMAKE_CONFIGURE) --no-warn-unused-cli -B $(WINDOWS_BUILD) -DCMAKE_TOOLCHAIN_FILE=cmake/MinGW-w64.cmake -DCMAKE_BUILD_TYPE=Debug \
 	  -DTESSARINE_WERROR=ON -DTESSARINE_GTEST_SOURCE=/usr/src/googletest >/dev/null
 	@cmake --build $(WINDOWS_BUILD) --target tessarine_core_tests
 	@test -d $(WINDOWS_BUILD)/wine || $(WINE_ENV) $(WINE) wineboot --init >$(WINDOWS_BUILD)/wineboot.log 2>&1 || true
+	@$(WINE_LEFT) -exec rm -rf {} +
 	$(WINE_ENV) $(WINE) $(WINDOWS_BUILD)/tests/tessarine_core_tests.exe
+	@left=$$($(WINE_LEFT)); test -z "$$left" || { echo "test-windows: the tests left these files behind:"; echo "$$left"; exit 1; }
 
 bench: deps
 	@$(CMAKE_CONFIGURE) -B build/bench -DCMAKE_BUILD_TYPE=Release -DTESSARINE_TESTS=OFF -DTESSARINE_BENCH=ON >/dev/null

@@ -24,6 +24,7 @@ using Written = std::vector<std::pair<std::size_t, Bytes>>;  // each changed run
 struct Session : test::MainSession {
   FixtureRom fixture;
   explicit Session(FixtureRom rom_) : fixture(std::move(rom_)) { Open(fixture.path()); }
+  ~Session() { rom.Close(); }  // before the fixture goes: Windows deletes no file that is open
 };
 
 std::string Hex(std::uint32_t value) { return ToHexText(static_cast<std::int32_t>(value)); }

@@ -157,6 +157,27 @@ TEST(RomImageTest, NothingReachesPastTheEndOfTheFile) {
   EXPECT_EQ(oracle.Changes(), (Ranges{{0x1FE, 2}}));
 }
 
+// Lengths and positions have 64 bits on every system (a long has 32 on Windows). The file is
+// sparse: it takes a few blocks of the disk, not 4 GiB.
+TEST(RomImageTest, AFileOfMoreThanFourGibibytesIsMeasuredAndWrittenPastTwo) {
+  const std::filesystem::path big = test::TemporaryPath("big.gba");
+  std::ofstream(big, std::ios::binary).put(0);
+  std::error_code error;
+  std::filesystem::resize_file(big, 0x1'0000'0010, error);
+  if (!error) {
+    RomImage rom;
+    rom.Open(ToPathText(big));
+    EXPECT_EQ(rom.Length(), 0x1'0000'0010);
+    EXPECT_TRUE(rom.Holds(0xFFFF'FFFF, 0x11));
+    EXPECT_FALSE(rom.Holds(0xFFFF'FFFF, 0x12));
+    rom.ReadByte(INT32_MAX);  // the position runs on to 2 GiB
+    rom.WriteLong(0x12345678);
+    EXPECT_EQ(rom.ReadLong(INT32_MAX), 0x34567800);  // 00 at 2 GiB, then the long
+  }
+  std::filesystem::remove(big);
+  if (error) GTEST_SKIP() << "the file system here holds no file of 4 GiB: " << error.message();
+}
+
 TEST(RomImageTest, FailuresSaySoAndChangeNothing) {
   FixtureRom fixture = FixtureRom::FireRed();
   const std::string path = fixture.path();
