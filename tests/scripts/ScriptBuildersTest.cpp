@@ -182,13 +182,7 @@ TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNoth
 
 TEST(ScriptBuildersTest, WhatTheFileTakesTheInsertDoesNotRefuse) {
   Builder b;
-  // A device, which has no end: every write there is taken. (Wine would also take
-  // "/dev/zero", as a path of the Linux around it; Windows reads it as \dev\zero.)
-#ifdef _WIN32
-  b.rom.Open("NUL");
-#else
-  b.rom.Open("/dev/zero");
-#endif
+  b.rom.Open(test::EndlessDevice());  // every write there is taken
   InsertWildBattle(b.form3, b.rom, b.dialogs);
   EXPECT_THAT(b.dialogs.MessageTexts(), ElementsAre("Inserted"));
 }

@@ -55,6 +55,17 @@ inline Bytes GameTextOf(std::string_view ascii) {
   return bytes;
 }
 
+// A device that has no end and takes every write: a ROM of which every place lies inside.
+// (Wine would also open "/dev/zero", as a path of the Linux around it; Windows reads it as
+// \dev\zero.)
+inline const char* EndlessDevice() {
+#ifdef _WIN32
+  return "NUL";
+#else
+  return "/dev/zero";
+#endif
+}
+
 // A path for a temporary file of the test's own, unique in this run.
 inline std::filesystem::path TemporaryPath(std::string_view stem) {
   static std::atomic<int> counter{0};
