@@ -1,0 +1,59 @@
+#pragma once
+
+// What the fuzz targets share: an input taken apart from the front (what is missing reads as
+// 0), a scratch ROM file made of its bytes, and a property that stops the run when broken.
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <span>
+#include <string>
+
+#include "rom/FilePath.h"
+#include "support/FixtureRom.h"
+
+namespace tessarine::fuzz {
+
+inline void Require(bool holds, const char* property) {
+  if (holds) return;
+  std::fprintf(stderr, "broken: %s\n", property);
+  std::abort();
+}
+
+struct Input {
+  std::span<const std::uint8_t> rest;
+  std::uint32_t Number(std::size_t bytes) {
+    std::uint32_t value = 0;
+    for (std::size_t i = 0; i < bytes && i < rest.size(); ++i) value |= std::uint32_t{rest[i]} << (8 * i);
+    rest = rest.subspan(std::min(bytes, rest.size()));
+    return value;
+  }
+  Bytes Block(std::size_t most = SIZE_MAX) {
+    const auto taken = rest.first(std::min(most, rest.size()));
+    rest = rest.subspan(taken.size());
+    return {taken.begin(), taken.end()};
+  }
+  std::string Text(std::size_t most) {
+    const Bytes taken = Block(most);
+    return {taken.begin(), taken.end()};
+  }
+};
+
+// The one scratch file of the run: `length` bytes of 0 (sparse, so megabytes cost nothing),
+// with `bytes` at `at` as far as they fit. In memory where the system has a folder for that.
+inline std::string ScratchRom(std::int64_t length, std::int64_t at, const Bytes& bytes) {
+  static const struct Scratch {
+    std::filesystem::path path = std::filesystem::is_directory("/dev/shm")
+                                     ? "/dev/shm" / test::TemporaryPath("fuzz.gba").filename()
+                                     : test::TemporaryPath("fuzz.gba");
+    ~Scratch() { std::filesystem::remove(path); }
+  } scratch;
+  std::ofstream{scratch.path, std::ios::trunc};
+  std::filesystem::resize_file(scratch.path, static_cast<std::uintmax_t>(length));
+  const auto fits = std::clamp<std::int64_t>(length - at, 0, std::ssize(bytes));
+  std::fstream file(scratch.path, std::ios::in | std::ios::out | std::ios::binary);
+  if (fits > 0) file.seekp(at).write(reinterpret_cast<const char*>(bytes.data()), fits);
+  return ToPathText(scratch.path);
+}
+
+}  // namespace tessarine::fuzz
