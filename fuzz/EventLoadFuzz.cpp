@@ -12,27 +12,29 @@
 #include "support/EventFixtures.h"
 #include "support/MainSession.h"
 
+namespace tessarine::test {
 namespace {
 
 // A game's fixture, open in a session of its own from the first input that picks it.
 struct Game {
-  explicit Game(std::string_view code) : fixture(tessarine::test::EventFixtureRom(code)), events(tessarine::test::FixtureEvents(code)) {
+  explicit Game(std::string_view code) : fixture(EventFixtureRom(code)), events(FixtureEvents(code)) {
     session.Open(fixture.path());
   }
-  tessarine::test::FixtureRom fixture;
-  std::vector<tessarine::test::FixtureEvent> events;
-  tessarine::test::MainSession session;
+  FixtureRom fixture;
+  std::vector<FixtureEvent> events;
+  MainSession session;
 };
 
 }  // namespace
+}  // namespace tessarine::test
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace tessarine;
-  static std::unique_ptr<Game> games[4];
+  static std::unique_ptr<test::Game> games[4];
   fuzz::Input in{{data, size}};
   const std::uint32_t which = in.Number(1) % 4;
-  if (!games[which]) games[which] = std::make_unique<Game>(std::array{"AXVE", "AXPE", "BPRE", "BPGE"}[which]);
-  Game& game = *games[which];
+  if (!games[which]) games[which] = std::make_unique<test::Game>(std::array{"AXVE", "AXPE", "BPRE", "BPGE"}[which]);
+  test::Game& game = *games[which];
   RomImage& rom = game.session.rom;
   const int index = static_cast<int>(in.Number(1) % 8);  // the lists hold 7 and 6 entries
   const bool listed = static_cast<std::size_t>(index) < game.events.size();

@@ -22,20 +22,20 @@ inline void Require(bool holds, const char* property) {
 
 struct Input {
   std::span<const std::uint8_t> rest;
-  std::uint32_t Number(std::size_t bytes) {
-    std::uint32_t value = 0;
-    for (std::size_t i = 0; i < bytes && i < rest.size(); ++i) value |= std::uint32_t{rest[i]} << (8 * i);
-    rest = rest.subspan(std::min(bytes, rest.size()));
-    return value;
-  }
-  Bytes Block(std::size_t most = SIZE_MAX) {
+  std::string Text(std::size_t most = SIZE_MAX) {
     const auto taken = rest.first(std::min(most, rest.size()));
     rest = rest.subspan(taken.size());
     return {taken.begin(), taken.end()};
   }
-  std::string Text(std::size_t most) {
-    const Bytes taken = Block(most);
+  Bytes Block(std::size_t most = SIZE_MAX) {
+    const std::string taken = Text(most);
     return {taken.begin(), taken.end()};
+  }
+  std::uint32_t Number(std::size_t bytes) {
+    const Bytes taken = Block(bytes);
+    std::uint32_t value = 0;
+    for (auto byte = taken.rbegin(); byte != taken.rend(); ++byte) value = value << 8 | *byte;
+    return value;
   }
 };
 
@@ -43,16 +43,16 @@ struct Input {
 // with `bytes` at `at` as far as they fit. In memory where the system has a folder for that.
 inline std::string ScratchRom(std::int64_t length, std::int64_t at, const Bytes& bytes) {
   static const struct Scratch {
-    std::filesystem::path path = std::filesystem::is_directory("/dev/shm")
-                                     ? "/dev/shm" / test::TemporaryPath("fuzz.gba").filename()
-                                     : test::TemporaryPath("fuzz.gba");
+    std::filesystem::path path =
+        (std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : std::filesystem::temp_directory_path()) /
+        test::TemporaryPath("fuzz.gba").filename();
     ~Scratch() { std::filesystem::remove(path); }
   } scratch;
   std::ofstream{scratch.path, std::ios::trunc};
   std::filesystem::resize_file(scratch.path, static_cast<std::uintmax_t>(length));
-  const auto fits = std::clamp<std::int64_t>(length - at, 0, std::ssize(bytes));
   std::fstream file(scratch.path, std::ios::in | std::ios::out | std::ios::binary);
-  if (fits > 0) file.seekp(at).write(reinterpret_cast<const char*>(bytes.data()), fits);
+  const auto fits = std::clamp<std::int64_t>(length - at, 0, std::ssize(bytes));
+  file.seekp(at).write(reinterpret_cast<const char*>(bytes.data()), fits);
   return ToPathText(scratch.path);
 }
 
