@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   rom.WriteBytes(person, record);
   const PersonRecord read = PersonRecord::FromBytes(rom.ReadBytes(person, PersonRecord::kSize));
   const std::int64_t script = std::int64_t{read.script} - 0x08000000;
-  const bool apart = script >= person + std::ssize(record) || script + std::ssize(pointed) <= person;
+  const bool apart = script >= person + std::int64_t{PersonRecord::kSize} || script + std::ssize(pointed) <= person;
   const bool placed = apart && rom.Holds(script, std::ssize(pointed));
   if (placed) rom.WriteBytes(static_cast<RomOffset>(script), pointed);
   try {
