@@ -5,7 +5,7 @@
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 CMAKE_CONFIGURE = cmake -S . -G Ninja -Wno-dev
 
-.PHONY: run test test-windows bench screenshots deps clean
+.PHONY: run test test-windows bench fuzz screenshots deps clean
 
 deps:
 	@scripts/install-deps
@@ -46,6 +46,27 @@ bench: deps
 	@$(CMAKE_CONFIGURE) -B build/bench -DCMAKE_BUILD_TYPE=Release -DTESSARINE_TESTS=OFF -DTESSARINE_BENCH=ON >/dev/null
 	@cmake --build build/bench
 	QT_QPA_PLATFORM=offscreen build/bench/bench/tessarine_bench
+
+# The fuzz targets (fuzz/) built with clang, libFuzzer, AddressSanitizer and
+# UndefinedBehaviorSanitizer, each run for FUZZ_SECONDS on a corpus of its own under
+# build/fuzz/corpus, starting from its regression inputs. A crash stops the run and leaves the
+# input in build/fuzz; it goes into fuzz/regressions/<target>, which make test replays.
+# The last line of each run (executions, coverage) is gathered in build/fuzz/summary.txt.
+FUZZ_SECONDS ?= 60
+FUZZ_TARGETS = HexField GameText ListScript BrailleRecord FlyRecord EventLoad
+
+fuzz:
+	@scripts/install-deps fuzz
+	@CC=clang CXX=clang++ $(CMAKE_CONFIGURE) -B build/fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTESSARINE_FUZZ=ON \
+	  -DTESSARINE_SANITIZE=ON -DTESSARINE_TESTS=OFF -DTESSARINE_UI=OFF >/dev/null
+	@cmake --build build/fuzz
+	@rm -f build/fuzz/summary.txt
+	@for t in $(FUZZ_TARGETS); do \
+	  mkdir -p build/fuzz/corpus/$$t; \
+	  build/fuzz/fuzz/fuzz_$$t -max_total_time=$(FUZZ_SECONDS) -print_final_stats=1 -artifact_prefix=build/fuzz/$$t- \
+	    build/fuzz/corpus/$$t $$(ls -d fuzz/regressions/$$t 2>/dev/null) 2>build/fuzz/$$t.log || { tail -40 build/fuzz/$$t.log; exit 1; }; \
+	  echo "$$t: $$(grep -E '^#[0-9]+[[:space:]]+DONE' build/fuzz/$$t.log)" | tee -a build/fuzz/summary.txt; \
+	done
 
 # Pictures of every window on fixture ROMs, drawn under a virtual display, into docs/screenshots.
 screenshots: deps

@@ -7,6 +7,29 @@
 namespace tessarine {
 namespace {
 
+// Whether a BMP holds all the pixel bytes its header names. Qt decodes a BMP cut short
+// without a word and leaves its missing rows as whatever memory held, so the rows are
+// counted here first. Only the uncompressed kinds are counted; the others Qt checks itself.
+bool HoldsItsPixels(QIODevice& device) {
+  const qint64 position = device.pos();  // where reading the size left it
+  device.seek(0);
+  const QByteArray header = device.read(34);
+  device.seek(position);
+  if (header.size() < 34) return false;
+  const auto field = [&](int at, int width) {
+    qint64 value = 0;
+    for (int i = width - 1; i >= 0; --i) value = (value << 8) | static_cast<quint8>(header[at + i]);
+    return value;
+  };
+  const bool core = field(14, 4) < 40;  // the old header of 12 bytes: 16-bit sizes, no compression
+  const qint64 width = core ? field(18, 2) : static_cast<qint32>(field(18, 4));
+  const qint64 height = core ? field(20, 2) : static_cast<qint32>(field(22, 4));
+  const qint64 bits = field(core ? 24 : 28, 2);
+  const qint64 compression = core ? 0 : field(30, 4);
+  if (compression != 0 && compression != 3) return true;
+  return device.size() >= field(10, 4) + (width * bits + 31) / 32 * 4 * qAbs(height);
+}
+
 PictureFile ReadBounded(QImageReader& reader, const QString& name) {
   reader.setAutoTransform(false);
   reader.setDecideFormatFromContent(true);
@@ -26,6 +49,9 @@ PictureFile ReadBounded(QImageReader& reader, const QString& name) {
                     .arg(size.height())
                     .arg(kMaxPictureSide)
                     .arg(kMaxPicturePixels)};
+  }
+  if (reader.format() == "bmp" && !HoldsItsPixels(*reader.device())) {
+    return {{}, "\"" + name + "\" is cut short: it ends before the last row of its picture, so it was not read."};
   }
   QImage image = reader.read();
   if (image.isNull()) {

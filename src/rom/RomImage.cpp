@@ -62,6 +62,15 @@ void RomImage::Open(const std::string& path) {
   } catch (const std::exception&) {
     throw Failure("Could not open \"" + path + "\": the name is not UTF-8 text.");
   }
+  // A folder opens for reading on some systems, and then reads nothing and claims to be
+  // endless; a pipe waits for a writer. Neither is a ROM.
+  std::error_code ignored;
+  const auto kind = std::filesystem::status(file, ignored).type();
+  if (kind == std::filesystem::file_type::directory || kind == std::filesystem::file_type::fifo) {
+    throw Failure("Could not open \"" + path + "\": it is " +
+                  (kind == std::filesystem::file_type::directory ? "a folder" : "a pipe") +
+                  ", not a ROM file. Nothing was opened.");
+  }
   readOnly_ = false;
   file_ = OpenUnbuffered(file, true);
   if (file_ == nullptr) {
@@ -74,8 +83,7 @@ void RomImage::Open(const std::string& path) {
   }
   romPath_ = path;
   position_ = 0;
-  std::error_code ignored;
-  regularFile_ = std::filesystem::is_regular_file(file, ignored);
+  regularFile_ = kind == std::filesystem::file_type::regular;
 }
 
 void RomImage::Close() noexcept {
@@ -147,7 +155,8 @@ void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
   }
   errno = 0;
   const bool placed = SeekTo(file_, position_);
-  const std::size_t put = placed ? std::fwrite(bytes.data(), 1, bytes.size(), file_) : 0;
+  // No bytes may come with no buffer at all, which fwrite must not be given.
+  const std::size_t put = placed && !bytes.empty() ? std::fwrite(bytes.data(), 1, bytes.size(), file_) : 0;
   const bool flushed = std::fflush(file_) == 0;
   const int error = errno;
   std::clearerr(file_);

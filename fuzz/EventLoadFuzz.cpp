@@ -1,0 +1,66 @@
+// Picking an event on a fixture ROM whose person record, and the bytes where its script
+// pointer leads, come from the input: the load runs through or fails with a sentence, and
+// where it runs through, the fields show the record's sprite and flag.
+#include <array>
+#include <memory>
+
+#include "FuzzInput.h"
+#include "events/EventSelection.h"
+#include "events/PersonRecord.h"
+#include "rom/Failure.h"
+#include "rom/HexField.h"
+#include "support/EventFixtures.h"
+#include "support/MainSession.h"
+
+namespace tessarine::test {
+namespace {
+
+// A game's fixture, open in a session of its own from the first input that picks it.
+struct Game {
+  explicit Game(std::string_view code) : fixture(EventFixtureRom(code)), events(FixtureEvents(code)) {
+    session.Open(fixture.path());
+  }
+  FixtureRom fixture;
+  std::vector<FixtureEvent> events;
+  MainSession session;
+};
+
+}  // namespace
+}  // namespace tessarine::test
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace tessarine;
+  static std::unique_ptr<test::Game> games[4];
+  fuzz::Input in{{data, size}};
+  const std::uint32_t which = in.Number(1) % 4;
+  if (!games[which]) games[which] = std::make_unique<test::Game>(std::array{"AXVE", "AXPE", "BPRE", "BPGE"}[which]);
+  test::Game& game = *games[which];
+  RomImage& rom = game.session.rom;
+  const int index = static_cast<int>(in.Number(1) % 8);  // the lists hold 7 and 6 entries
+  const bool listed = static_cast<std::size_t>(index) < game.events.size();
+  const RomOffset person = listed ? game.events[index].person : 0;
+  const Bytes record = in.Block(listed ? PersonRecord::kSize : 0);
+  const Bytes pointed = in.Block();
+
+  // The input's bytes go into the file, and afterwards the fixture's back.
+  rom.WriteBytes(person, record);
+  const PersonRecord read = PersonRecord::FromBytes(rom.ReadBytes(person, PersonRecord::kSize));
+  const std::int64_t script = std::int64_t{read.script} - 0x08000000;
+  const bool apart = script >= person + std::int64_t{PersonRecord::kSize} || script + std::ssize(pointed) <= person;
+  const bool placed = apart && rom.Holds(script, std::ssize(pointed));
+  if (placed) rom.WriteBytes(static_cast<RomOffset>(script), pointed);
+  try {
+    SelectEvent(game.session.form, rom, game.session.dialogs, index);
+    fuzz::Require(!listed || ParseWord(game.session.form.spritetxt.text) == read.sprite, "the record's sprite is shown");
+    fuzz::Require(!listed || ParseWord(game.session.form.flagtxt.text) == read.flag, "the record's flag is shown");
+  } catch (const Failure& failure) {
+    fuzz::Require(*failure.what() != '\0', "a failure has a sentence");
+  }
+  game.session.dialogs.messages.clear();
+  const auto restore = [&](std::int64_t at, std::size_t count) {
+    rom.WriteBytes(static_cast<RomOffset>(at), Bytes(game.fixture.image().begin() + at, game.fixture.image().begin() + at + count));
+  };
+  if (placed) restore(script, pointed.size());
+  restore(person, record.size());
+  return 0;
+}

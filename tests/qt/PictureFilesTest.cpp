@@ -1,0 +1,62 @@
+#include "qt/QtPictures.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QFile>
+#include <QImage>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+
+namespace tessarine {
+namespace {
+
+// Little-endian fields of `width` bytes each.
+QByteArray Fields(std::initializer_list<std::pair<quint32, int>> fields) {
+  QByteArray bytes;
+  for (const auto& [value, width] : fields) {
+    for (int i = 0; i < width; ++i) bytes.append(static_cast<char>(i < 4 ? value >> (8 * i) : 0));
+  }
+  return bytes;
+}
+
+// Picture files that the braille inserter and Wingfall may be given, made here: three whose
+// header claims a picture of 9000 by 9000 or 65535 by 65535 pixels, a BMP cut off in its
+// pixels, and random bytes. Each is refused with a sentence, never decoded into a picture.
+TEST(PictureFilesTest, AHugeCutOrMeaninglessPictureIsRefusedFromItsHeader) {
+  QByteArray cut;
+  QBuffer buffer(&cut);
+  QImage(64, 64, QImage::Format_RGB32).save(&buffer, "BMP");
+  const QByteArray whole = cut;
+  cut.truncate(cut.size() / 2);
+  QByteArray noise(4096, '\0');
+  QRandomGenerator(14).fillRange(reinterpret_cast<quint32*>(noise.data()), noise.size() / 4);
+  const struct {
+    const char* name;
+    QByteArray bytes;
+    const char* problem;
+  } rows[] = {
+      {"huge.bmp", "BM" + Fields({{0, 4}, {0, 4}, {54, 4}, {40, 4}, {9000, 4}, {9000, 4}, {1, 2}, {24, 2}, {0, 24}}),
+       "9000 by 9000"},
+      {"huge.gif", "GIF89a" + Fields({{65535, 2}, {65535, 2}, {0, 3}}) + "," + Fields({{0, 4}, {65535, 2}, {65535, 2}, {0, 1}}) +
+                       Fields({{2, 1}, {0x014C02, 3}, {0, 1}}) + ";",
+       "65535 by 65535"},
+      {"huge.jpg", QByteArray::fromHex("FFD8FFC0000B08EA60EA6001011100FFD9"), "\"huge.jpg\""},
+      {"cut.bmp", cut, "\"cut.bmp\""},
+      {"noise.gif", noise, "\"noise.gif\" is no picture"},
+      {"whole.bmp", whole, ""},  // and the BMP before it was cut is read
+  };
+  QTemporaryDir folder;
+  for (const auto& row : rows) {
+    QFile file(folder.filePath(row.name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(row.bytes) == row.bytes.size());
+    file.close();
+    const PictureFile picture = LoadPictureFile(file.fileName());
+    EXPECT_EQ(picture.image.isNull(), *row.problem != '\0') << row.name;
+    EXPECT_THAT(picture.problem.toStdString(), ::testing::HasSubstr(row.problem)) << row.name;
+  }
+}
+
+}  // namespace
+}  // namespace tessarine

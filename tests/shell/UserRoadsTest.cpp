@@ -1,0 +1,361 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <fstream>
+#include <functional>
+#include <map>
+#include <random>
+#include <regex>
+
+#include "events/EventSelection.h"
+#include "events/PersonRecord.h"
+#include "rom/FilePath.h"
+#include "rom/HexField.h"
+#include "scripts/ListScript.h"
+#include "shell/OpenRom.h"
+#include "shell/ScriptForms.h"
+#include "shell/Session.h"
+#include "shell/ToolsMenu.h"
+#include "support/ByteOracle.h"
+#include "support/EventFixtures.h"
+#include "support/Failures.h"
+#include "support/ReadOnlyFile.h"
+#include "support/ScriptedDialogs.h"
+
+#ifndef _WIN32
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+
+namespace tessarine {
+namespace {
+
+using test::ByteRange;
+using Ranges = std::vector<ByteRange>;
+
+// Every table of the five games lies below 6 MiB; the fixtures' event scripts move down to 5 MiB.
+constexpr std::int64_t kRomSize = 0x600000;
+
+test::FixtureRom RoadRom(std::string_view code) {
+  test::FixtureRom rom(code, kRomSize);
+  if (code == "BPEJ") return rom;  // Emerald: only the starter editor and Wingfall know it
+  test::PutSpeciesNames(rom, test::SpeciesTableOffset(code));
+  std::vector<test::FixtureEvent> events = test::FixtureEvents(code);
+  for (test::FixtureEvent& e : events) {
+    e.record.scriptPointer -= 0x500000;
+    if (e.script >= 0xA00000) e.script -= 0x500000;
+  }
+  test::PutEvents(rom, events);
+  return rom;
+}
+
+// A person at the keyboard with a die, in a session with no windows. Each action first names
+// the bytes it may write, then picks rows, types into fields and presses the button. A careful
+// person types good texts only (numbers in range, offsets of free space); a careless one also
+// bad numbers and offsets at the end of the file, in its header or before its start.
+struct User {
+  User(std::uint32_t seed, bool careful) : rng(seed), careful(careful) {}
+  std::mt19937 rng;
+  bool careful;
+  Session s;
+  test::ScriptedDialogs ui;
+
+  int Die(std::int64_t sides) { return static_cast<int>(rng() % static_cast<std::uint32_t>(sides)); }
+  static std::string Hex(std::int64_t value) { return ToHexText(static_cast<std::int32_t>(value)); }
+  std::string Number(int top) {
+    static const char* const kBad[] = {"", "&H", "abc", "12x", "-1", "&H123456789", "&HFFFF", "0x10"};
+    return careful || Die(10) > 0 ? Hex(Die(top)) : kBad[Die(std::size(kBad))];
+  }
+  std::string Offset() {
+    if (careful) return Hex(0x400000 + Die(0xF0000));  // free space in every game
+    const std::string kinds[] = {Hex(kRomSize - Die(48)), Hex(Die(0xC0)), "&HF8000000", std::to_string(Die(kRomSize))};
+    return Die(2) ? Number(kRomSize) : kinds[Die(4)];
+  }
+  std::string Text(std::string_view letters) {
+    std::string text;
+    for (int n = Die(25); n > 0; --n) text += letters[Die(std::ssize(letters))];
+    return text;
+  }
+  // `length` bytes at `distance` from the offset in `text`; none when it is no offset.
+  static ByteRange From(const std::string& text, std::int64_t distance, std::int64_t length) {
+    try {
+      const std::int64_t at = ParseOffset(text) + distance;
+      if (at >= 0) return {static_cast<std::size_t>(at), static_cast<std::size_t>(length)};
+    } catch (const Failure&) {
+    }
+    return {0, 0};
+  }
+  void Open(const std::string& path) {
+    ui.openFileAnswers = {path};
+    OpenRom(s.form1, s.rom, ui);
+  }
+  void Load(WindowName window) {
+    ResetWindow(s, window);
+    LoadWindow(s, ui, window);
+  }
+  template <typename Form>
+  void Pick(Form& form, const ComboBox& list, void (*set)(Form&, int)) {
+    if (!list.rows.empty()) set(form, Die(std::ssize(list.rows)));
+  }
+
+  struct Action {
+    std::string_view name;
+    bool writes;
+    std::function<void(Ranges&)> act;
+  };
+  const std::vector<Action> actions = {
+      {"pick an event", false, [this](Ranges&) {
+         if (s.form1.cowmoo == "rs" && s.form1.Combo3.enabled) SetCombo3Selection(s.form1, s.rom, ui, Die(7));
+         if (s.form1.cowmoo == "frlg" && s.form1.Combo4.visible) SetCombo4Selection(s.form1, s.rom, ui, Die(6));
+       }},
+      {"pick and type in the event fields", false, [this](Ranges&) {
+         Pick(s.form1, s.form1.Combo1, SetCombo1Selection);
+         TextBox* fields[] = {&s.form1.spritetxt, &s.form1.flagtxt, &s.form1.hoobla, &s.form1.hoobla2, &s.form1.Text1};
+         fields[Die(std::size(fields))]->text = Number(Die(2) ? 412 : 0x10000);
+         if (!careful && Die(4) == 0) s.form1.scriptpointxt.text = Offset();
+         Die(2) ? Pick(s.form1, s.form1.Combo2, SetCombo2Selection) : SetBehavtxt(s.form1, Number(12));
+       }},
+      {"list a script", false, [this](Ranges&) {
+         s.form1.Text3.text = Offset();
+         s.form1.Check1.checked = Die(2);
+         int reports = 0;  // a listing through megabytes of FF is cancelled at its second report
+         ListIntoText4(s.form1, s.rom, ui, [&](double) { return ++reports < 2; });
+       }},
+      {"save the event", true, [this](Ranges& may) {
+         const auto events = test::FixtureEvents(s.form1.cowmoo == "rs" ? "AXVE" : "BPRE");
+         const auto& event = events[std::min<std::size_t>(std::stoul(s.form1.whee), events.size() - 1)];
+         const std::string& script = s.form1.scriptpointxt.text;
+         may = {From(s.form1.personOffset, 0, PersonRecord::kSize), From(script, event.firstAt, event.firstAt < 0 ? 0 : 2),
+                From(script, event.secondAt, event.firstAt < 0 ? 0 : 2)};
+         if (s.form1.Command9.enabled) SavePerson(s.form1, s.rom, ui);
+       }},
+      {"insert a script", true, [this](Ranges& may) {
+         const int form = 3 + Die(3);  // Form3, Form4 or Form5
+         Load(form == 3 ? WindowName::Form3 : form == 4 ? WindowName::Form4 : WindowName::Form5);
+         for (TextBox* field : {&s.form3.pkmntxt, &s.form4.pkmntxt, &s.form5.pkmntxt, &s.form3.crytxt, &s.form4.crytxt,
+                                &s.form3.Text2, &s.form4.Text2, &s.form5.Text2}) {
+           field->text = Number(field == &s.form5.Text2 ? 347 : 412);
+         }
+         Pick(s.form3, s.form3.Combo3, SetCombo3Selection);
+         Pick(s.form4, s.form4.Combo3, SetCombo3Selection);
+         Pick(s.form5, s.form5.Combo3, SetCombo3Selection);
+         s.form3.Text3.text = s.form4.Text3.text = s.form5.Text3.text = Offset();
+         s.form4.Text12.text = s.form5.Text12.text = Offset();
+         ui.inputAnswers = {Text("ABC xyz[N]\\p&")};
+         may = {From(s.form5.Text3.text, 0, form == 5 ? 151 : form == 4 ? 20 : 13),
+                From(form == 3 ? "" : s.form5.Text12.text, 0, std::ssize(*ui.inputAnswers[0]) + 2)};
+         if (form == 3) InsertWildBattle(s.form3, s.rom, ui);
+         if (form == 4) InsertWildBattle(s.form4, s.rom, ui);
+         if (form == 5) InsertGivePokemon(s.form5, s.rom, ui);
+       }},
+      {"save the starters", true, [this](Ranges& may) {
+         if (careful || Die(4) > 0) Load(WindowName::Form2);  // else the form on show, maybe of the ROM before
+         Pick(s.form2, s.form2.Combo1, SetCombo1Selection);
+         s.form2.balltxt3.text = Number(0x10000);
+         for (const RomOffset ball : FindStarterOffsets(s.form1.headtxt).value_or(StarterOffsets{})) {
+           may.push_back(From(Hex(ball), 0, 2));
+         }
+         PressSave(s.form2, s.form1, s.rom, ui);
+       }},
+      {"rename a Pokemon or an item", true, [this](Ranges& may) {
+         const bool item = Die(2);
+         ui.inputAnswers = {Number(item ? 347 : 412), Text("ABCxyz 019[PK]\\h")};
+         if (item) RequireForm5Loaded(s);  // where the action finds the item table
+         may = {From(item ? s.form1.itemRecords : s.form1.Label20, ParseLenient(*ui.inputAnswers[0]) * (item ? 44 : 11),
+                     item ? 14 : 11)};
+         RunMenuEntry(item ? MenuEntry::mnuediten : MenuEntry::mnuedipmon, s, ui);
+       }},
+      {"save a landing tile", true, [this](Ranges& may) {
+         Load(WindowName::Form8);
+         const FlyTable* table = FindFlyTable(s.form1.headtxt);
+         const int index = Die(kFlyRecordCount);
+         SelectLocation(s.form8, s.rom, s.form1.headtxt, table ? table->list : LocationListName::hoenn, index);
+         s.form8.XXt.text = Number(0x100);
+         s.form8.YYt.text = Number(0x100);
+         const std::string record = table ? Hex(FlyRecordOffset(*table, index)) : "";
+         may = {From(record, 4, 1), From(record, 6, 1)};  // bytes 4 and 6 only
+         if (s.form8.savebutton.enabled) PressSavebutton(s.form8, s.rom, s.form1.headtxt, ui);
+       }},
+      {"insert braille", true, [this](Ranges& may) {
+         Form6& form = s.form6;
+         for (TextBox* field : {&form.postionleft, &form.postiontop, &form.msgboxleft, &form.msgboxtop,
+                                &form.brailleleft, &form.brailletop}) {
+           field->text = Number(0x100);
+         }
+         SetText1(form, Text("HELLO. WORLD'\r\n[End]\\h02x"));
+         form.Text2.text = Offset();
+         form.Text3.text = Offset();
+         ui.messageAnswers = {careful || Die(4) ? MessageAnswer::Yes : MessageAnswer::No};
+         may = {From(form.Text2.text, 0, std::ssize(form.Text1.text) + 8), From(form.Text3.text, 0, 8)};
+         PressInsert(form, s.rom, ui);
+         PressLoad(form, s.rom);
+       }},
+  };
+  // Runs an action as its button does: a Failure ends it with its sentence.
+  std::string Do(const Action& action, Ranges& may) {
+    return test::FailureOf([&] { action.act(may); });
+  }
+  std::string Do(std::string_view name) {
+    Ranges may;
+    return Do(*std::ranges::find(actions, name, &Action::name), may);
+  }
+};
+
+// Thousands of actions, and opens, on ROMs of every game in a folder named with blanks and
+// letters outside ASCII. After each action every byte of the file it worked on is compared
+// with that file before it.
+TEST(UserRoadsTest, NoActionWritesOutsideTheBytesItNames) {
+  constexpr std::uint32_t kSeed = 20240611;
+  constexpr int kSteps = 2000;
+  const std::filesystem::path root = test::TemporaryPath("roads");
+  const std::string folder = ToPathText(root) + "/Pokémon hacks/";
+  std::filesystem::create_directories(ToFilePath(folder));
+  std::map<std::string, Bytes> last;               // each file as the last check saw it
+  std::map<std::string, const std::uint8_t*> now;  // and as it is now: the system's own pages of it
+  Bytes read(kRomSize);                            // where those cannot be mapped, the file read afresh
+  std::vector<std::string> paths;
+  for (const std::string_view code : {"AXVE", "AXPE", "BPRE", "BPGE", "BPEJ"}) {
+    test::FixtureRom rom = RoadRom(code);
+    paths.push_back(folder + "ポケモン " + std::string(code) + ".gba");
+    std::filesystem::copy_file(ToFilePath(rom.path()), ToFilePath(paths.back()));
+    last[paths.back()] = rom.image();
+#ifndef _WIN32
+    const int file = open(paths.back().c_str(), O_RDONLY);
+    now[paths.back()] = static_cast<const std::uint8_t*>(mmap(nullptr, kRomSize, PROT_READ, MAP_SHARED, file, 0));
+    close(file);
+#endif
+  }
+  User user(kSeed, false);
+  int writes = 0;
+  for (int step = 0; step < kSteps; ++step) {
+    const std::string path = user.s.rom.romPath();
+    const std::size_t pick = user.Die(std::ssize(user.actions) + 1);
+    const std::string name = pick < user.actions.size() ? std::string(user.actions[pick].name) : "open";
+    Ranges may;
+    pick < user.actions.size() ? (void)user.Do(user.actions[pick], may) : user.Open(user.Die(8) ? paths[user.Die(5)] : "");
+    if (path.empty()) continue;
+    ASSERT_EQ(std::filesystem::file_size(ToFilePath(path)), kRomSize) << "seed " << kSeed << ", step " << step << ": " << name;
+    std::uint8_t* before = last[path].data();
+#ifdef _WIN32
+    std::ifstream(ToFilePath(path), std::ios::binary).read(reinterpret_cast<char*>(read.data()), kRomSize);
+    now[path] = read.data();
+#endif
+    const std::uint8_t* after = now[path];
+    for (std::size_t block = 0; block < kRomSize; block += 0x1000) {
+      if (std::memcmp(after + block, before + block, 0x1000) == 0) continue;
+      ++writes;
+      for (std::size_t i = block; i < block + 0x1000; ++i) {
+        ASSERT_TRUE(after[i] == before[i] || std::ranges::any_of(may, [i](ByteRange r) { return i - r.offset < r.length; }))
+            << "seed " << kSeed << ", step " << step << ": " << name << " wrote at " << User::Hex(i);
+      }
+      std::memcpy(before + block, after + block, 0x1000);
+    }
+  }
+  EXPECT_GT(writes, kSteps / 20);
+  user.s.rom.Close();
+  std::filesystem::remove_all(root);  // the mappings go with the process
+}
+
+// Every button that writes, pressed with good fields on a ROM that something is wrong with,
+// ends with a sentence that says what is wrong and writes nothing; the program then opens a
+// good ROM and saves on it.
+TEST(UserRoadsTest, OnABrokenRomEveryButtonSaysWhyAndWritesNothing) {
+  test::FixtureRom fixture = RoadRom("AXVE");
+  const std::string path = fixture.path();
+  const std::filesystem::path folder = test::TemporaryPath("a folder.gba");
+  std::filesystem::create_directories(folder);
+  test::FixtureRom tooShort = test::FixtureRom::TooShort();
+  struct Row {
+    const char* broken;
+    std::function<void(User&)> breakIt;  // none: the file is read-only
+    const char* sentence;
+  };
+  const Row rows[] = {
+      {"read-only", {}, "read-only"},
+      {"cut short below its tables while open", [&](User&) { std::filesystem::resize_file(ToFilePath(path), 0x100000); },
+       "end of the ROM|lie (wholly )?inside the ROM"},
+      // An unknown game: the starter editor and Wingfall do nothing for it.
+      {"shorter than its header", [&](User& u) { u.Open(tooShort.path()); }, "^$|end of the ROM|inside the ROM|Pick an event|is not an offset"},
+      {"a folder", [&](User& u) { u.Open(ToPathText(folder)); }, "^$|No ROM is open|Pick an event|is not an offset"},
+      {"cancelled in the Open dialog", [&](User& u) { u.Open(""); }, "No ROM is open"},
+#ifndef _WIN32
+      {"on a full disk", [&](User& u) { u.s.rom.Open("/dev/full"); }, "No space left on device"},
+#endif
+  };
+  const auto restore = [&] {
+    std::ofstream(ToFilePath(path), std::ios::binary).write(reinterpret_cast<const char*>(fixture.image().data()), kRomSize);
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.broken);
+    restore();
+    std::optional<test::ReadOnlyFile> readOnly;
+    if (!row.breakIt && !readOnly.emplace(path).works()) continue;  // this machine lets the tests write any file
+    User user(1, true);
+    user.Open(path);
+    for (const User::Action& action : user.actions) {
+      if (!action.writes) {
+        EXPECT_EQ(user.Do(action.name), "") << action.name;
+      }
+    }
+    if (row.breakIt) row.breakIt(user);
+    for (const User::Action& action : user.actions) {
+      const std::string sentence = user.Do(action.name);  // one that only reads may fail for a reason of its own
+      if (action.writes) {
+        EXPECT_TRUE(std::regex_search(sentence, std::regex(row.sentence))) << action.name << ": " << sentence;
+      }
+    }
+    readOnly.reset();
+    const Bytes now = test::ReadWholeFile(path);  // every byte as it was, the cut ones cut
+    EXPECT_TRUE(now.size() >= 0x100000 && std::equal(now.begin(), now.end(), fixture.image().begin()));
+    EXPECT_EQ(test::ReadWholeFile(tooShort.path()), tooShort.image());
+
+    restore();
+    user.Open(path);
+    EXPECT_EQ(user.Do("pick an event") + user.Do("save the starters"), "");
+    EXPECT_NE(test::ReadWholeFile(path), fixture.image());
+  }
+  std::filesystem::remove(folder);
+}
+
+// A process saves an event, inserts a script or saves a landing tile, and is killed outright
+// (SIGKILL) as soon as that returns: what it wrote is in the file all the same, byte for byte as
+// the same actions leave it in a process that lives on.
+TEST(UserRoadsTest, WhatASaveWroteIsInTheFileWhenTheProcessIsKilledRightAfter) {
+#ifdef _WIN32
+  GTEST_SKIP() << "Windows has no fork";
+#else
+  test::FixtureRom killed = RoadRom("AXPE");
+  test::FixtureRom lived = RoadRom("AXPE");
+  const std::vector<std::vector<std::string_view>> roads = {
+      {"pick an event", "pick and type in the event fields", "save the event"}, {"insert a script"}, {"save a landing tile"}};
+  for (std::uint32_t seed = 0; seed < roads.size(); ++seed) {
+    const auto walk = [&](const std::string& path) {
+      User user(seed, true);
+      user.Open(path);
+      std::string sentences;
+      for (const std::string_view action : roads[seed]) sentences += user.Do(action);
+      return sentences;
+    };
+    const Bytes before = test::ReadWholeFile(killed.path());
+    const pid_t child = fork();
+    if (child == 0) {
+      walk(killed.path());
+      kill(getpid(), SIGKILL);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+    EXPECT_EQ(walk(lived.path()), "");
+    const Bytes after = test::ReadWholeFile(killed.path());
+    EXPECT_NE(after, before) << roads[seed].back();
+    EXPECT_EQ(after, test::ReadWholeFile(lived.path())) << roads[seed].back();
+  }
+#endif
+}
+
+}  // namespace
+}  // namespace tessarine
