@@ -121,7 +121,7 @@ void LoadPerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
 }
 
 void SavePerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
-  if (const auto refusal = SaveRefusal(form)) throw Failure(*refusal + " Nothing was saved.");
+  if (const auto refusal = SaveRefusal(form, rom)) throw Failure(*refusal + " Nothing was saved.");
   PersonRecord record = ReadPersonRecord(form, rom);
   record.sprite = ParseWord(form.spritetxt.text, "Sprite");  // the rule has parsed all three
   record.flag = ParseWord(form.flagtxt.text, "Flag");

@@ -8,6 +8,7 @@
 #include "forms/ListRows.h"
 #include "rom/Failure.h"
 #include "rom/HexField.h"
+#include "rom/RomImage.h"
 
 namespace tessarine {
 namespace {
@@ -41,7 +42,8 @@ std::optional<std::string> WordsRefusal(const Form1& form) {
 
 }  // namespace
 
-std::optional<std::string> SaveRefusal(const Form1& form) {
+std::optional<std::string> SaveRefusal(const Form1& form, const RomImage& rom) {
+  if (!rom.IsOpen()) return "No ROM is open. Open a ROM first.";
   if (!form.eventFieldsMatchRom) {
     return "Pick an event in the list before saving: the event fields were not loaded from the ROM now open, "
            "and a save would write at offsets that may not belong to it.";

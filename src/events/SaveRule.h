@@ -8,10 +8,12 @@
 namespace tessarine {
 
 struct Form1;
+class RomImage;
 
 // When a press of Save (Command9) may write, and what: decided here and nowhere else.
 //
 // Before anything is written, the save runs only when
+//   - a ROM is open;
 //   - the event fields were loaded from the ROM now open: after an Open ROM, an event must
 //     be picked again;
 //   - Sprite and Flag are words and Behavior a byte;
@@ -25,7 +27,7 @@ struct Form1;
 // ROM holds no species number now is left as it is, and the person is told after the save.
 
 // None when the save may run; else the sentence why not.
-std::optional<std::string> SaveRefusal(const Form1& form);
+std::optional<std::string> SaveRefusal(const Form1& form, const RomImage& rom);
 
 // The species number in a word field, to be written; a Failure where the text is no word
 // or the word no species number (0 to 411). `name` names the field in the sentence.

@@ -49,7 +49,10 @@ void ApplyProfile(Form1& form, const GameProfile& profile) {
 void OpenRom(Form1& form, RomImage& rom, Dialogs& dialogs) {
   form.Combo1.Clear();
   rom.Close();
-  ++form.romOpenings;  // from here on, what was read from the file before belongs to no open ROM
+  // From here on, what was read from the file before belongs to no open ROM: the tools read
+  // again, and the event fields wait for an event to be picked.
+  ++form.romOpenings;
+  form.eventFieldsMatchRom = false;
   const std::string path = dialogs.OpenFile("Open", "Pokemon Advance rom|*.gba");
   if (path.empty()) return;
 
@@ -70,7 +73,6 @@ void OpenRom(Form1& form, RomImage& rom, Dialogs& dialogs) {
   }
   form.headtxt = code;
   form.hdtxt.caption = ShownCode(code);
-  form.eventFieldsMatchRom = false;
 
   if (const auto profile = FindGameProfile(code)) {
     ApplyProfile(form, *profile);

@@ -23,6 +23,16 @@ inline std::ostream& operator<<(std::ostream& out, const ByteRange& range) {
   return out << "{0x" << std::hex << range.offset << std::dec << ", " << range.length << "}";
 }
 
+// A whole file's bytes, read through a handle of the caller's own.
+inline Bytes ReadWholeFile(const std::string& path) {
+  std::ifstream in(ToFilePath(path), std::ios::binary | std::ios::ate);
+  Bytes bytes(in ? static_cast<std::size_t>(in.tellg()) : 0);
+  in.seekg(0);
+  in.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+  if (!in) throw std::runtime_error("cannot read " + path);
+  return bytes;
+}
+
 // Proves what an action wrote: take a snapshot of the whole file before it, then ask
 // which bytes differ after it. Changes() joins neighbouring changed bytes into ranges,
 // so a test states the exact set of ranges it expects and nothing else may differ.
@@ -49,14 +59,7 @@ class ByteOracle {
   }
 
   // The file's bytes as they are now, read through a handle of the oracle's own.
-  Bytes Now() const {
-    std::ifstream in(ToFilePath(path_), std::ios::binary | std::ios::ate);
-    Bytes bytes(in ? static_cast<std::size_t>(in.tellg()) : 0);
-    in.seekg(0);
-    in.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    if (!in) throw std::runtime_error("cannot read " + path_);
-    return bytes;
-  }
+  Bytes Now() const { return ReadWholeFile(path_); }
 
  private:
   std::string path_;
