@@ -69,6 +69,10 @@ void ForEachField(Record& r, Visit visit) {
 }
 
 PersonRecord ReadPersonRecord(Form1& form, RomImage& rom) {
+  // The offset is no field a person types: before any pick there is none to ask for.
+  if (form.personOffset.empty()) {
+    throw Failure("No event is picked, so there is no person record to read. Pick an event in the list first.");
+  }
   rom.Seek(ParseOffset(form.personOffset, "Person offset"));
   return PersonRecord::FromBytes(rom.ReadBytes(PersonRecord::kSize));
 }

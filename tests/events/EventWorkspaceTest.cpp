@@ -254,6 +254,12 @@ TEST(EventWorkspaceTest, AnIndexThatNamesNoRowOfAListChangesNothing) {
             before.Combo1.text + before.Combo2.text + before.Combo3.text);
 }
 
+TEST(EventWorkspaceTest, TheLoadOfAPersonBeforeAnyEventIsPickedAsksForAPick) {
+  Session s(test::EventFixtureRom("AXVE"));
+  EXPECT_EQ(test::FailureOf([&] { LoadPerson(s.form, s.rom, s.dialogs); }),
+            "No event is picked, so there is no person record to read. Pick an event in the list first.");
+}
+
 TEST(EventWorkspaceTest, TheWordLoadPutsTheFlagBackInRubyAndSapphire) {
   for (const auto& [code, event, flag] : {std::tuple{"AXPE", 5, "&H805"}, {"BPRE", 1, "&H1"}}) {
     Session s(test::EventFixtureRom(code));
