@@ -109,6 +109,7 @@ std::vector<std::string> MovementTypeTexts() {
 }
 
 void LoadPerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
+  form.personLoaded = false;  // until the Flag, the last field, has its text
   const PersonRecord record = ReadPersonRecord(form, rom);
   // The fields take their texts in the record's order, so a pointer that cannot become an
   // offset leaves the fields after it as they were.
@@ -120,6 +121,7 @@ void LoadPerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
   form.scripteh = script;
   form.flagtxt.text = ToHexText(record.flag);
   form.personFlag = record.flag;
+  form.personLoaded = true;
   form.tehe = std::to_string(form.Combo2.selected);
   LoadEventWords(form, rom, dialogs);
 }

@@ -48,6 +48,10 @@ std::optional<std::string> SaveRefusal(const Form1& form, const RomImage& rom) {
     return "Pick an event in the list before saving: the event fields were not loaded from the ROM now open, "
            "and a save would write at offsets that may not belong to it.";
   }
+  if (!form.personLoaded) {
+    return "The person record of this event was not loaded whole: its last load stopped before it reached the "
+           "Flag, so a save would write a Flag that was not read from the record.";
+  }
   if (auto failure = ParseFailure([&] {
         ParseWord(form.spritetxt.text, "Sprite");
         ParseWord(form.flagtxt.text, "Flag");

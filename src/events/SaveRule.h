@@ -16,6 +16,8 @@ class RomImage;
 //   - a ROM is open;
 //   - the event fields were loaded from the ROM now open: after an Open ROM, an event must
 //     be picked again;
+//   - the last person load read the record whole, Flag included (a script pointer that
+//     cannot become an offset stops it before the Flag);
 //   - Sprite and Flag are words and Behavior a byte;
 //   - for an event with words, the word fields hold what the save may write into them
 //     (WordsToSave): its words were read and the one that the Pokemon list follows held a

@@ -122,6 +122,9 @@ TEST(EventWorkspaceTest, ASaveThatCannotRunIsRefusedBeforeAnyWrite) {
        },
        [](FixtureRom& f) { f.PutLong(0x38EE50 + 16, 0); }, "&HF8000003",
        [](Session& s) { LoadEventWords(s.form, s.rom, s.dialogs); }, {{0xA00108, 1}}},  // the Load beside Script
+      {"its last load stopped before it reached the Flag",  // a picked species frees the words, not the Flag
+       [](Session& s) { SetCombo1Selection(s.form, 0x20); }, [](FixtureRom& f) { f.PutLong(0x38EE50 + 16, 0x80000000); },
+       "does not lead into the ROM"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.says);
