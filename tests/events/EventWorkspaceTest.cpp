@@ -107,12 +107,15 @@ TEST(EventWorkspaceTest, ASaveThatCannotRunIsRefusedBeforeAnyWrite) {
       {"Behavior: \"&H100\"", [](Session& s) { s.form.behavtxt = "&H100"; }},
       {"Flag: \"&H10000\"", [](Session& s) { s.form.flagtxt.text = "&H10000"; }},
       {"Sprite: \"sprite\"", [](Session& s) { s.form.spritetxt.text = "sprite"; }},
-      {"Pick an event", [](Session& s) { s.Open(s.fixture.path()); }},  // the fields are not this open's
+      {"no event was picked since the ROM now open was opened",  // the fields are not this open's, loaded or not
+       [](Session& s) { s.Open(s.fixture.path()); LoadPerson(s.form, s.rom, s.dialogs); }},
       {"Script: \"abc\"", [](Session& s) { s.form.scriptpointxt.text = "abc"; }},
       {"Script: \"&H7FFFFFFF\"", [](Session& s) { s.form.scriptpointxt.text = "&H7FFFFFFF"; }},
       {"Script: \"-5\"", [](Session& s) { s.form.scriptpointxt.text = "-5"; }},
-      {"The Pokemon word at &HA00103 holds &H19C, which is no species number",  // Regiice's species stays listed
-       [](Session& s) { EXPECT_EQ(Fields(s.form)[7] + Fields(s.form)[8] + Fields(s.form)[10], "388&H19C&H0000"); },
+      {"The Pokemon word at &HA00103 holds &H19C, which is no species number, so the Pokemon list was not moved",
+       [](Session& s) {  // Regiice's species stays listed
+         EXPECT_EQ(Fields(s.form)[7] + Fields(s.form)[8] + Fields(s.form)[10], "388&H19C&H0000");
+       },
        [](FixtureRom& f) { f.PutWord(0xA00103, 412); }, "", [](Session& s) { SetCombo1Selection(s.form, 0x20); },
        {{0xA00108, 2}}},  // the first word is no species: left alone
       {"The words of this event were not loaded",  // a null script pointer fails the load after the person fields
