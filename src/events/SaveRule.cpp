@@ -76,7 +76,10 @@ std::optional<std::string> SaveRefusal(const Form1& form, const RomImage& rom) {
 }
 
 std::int16_t SpeciesToWrite(std::string_view text, std::string_view name) {
-  const std::int16_t value = ParseWord(text, name);
+  // A text that is no word is no species number either: one sentence for both, with the
+  // species' own bounds, since the bounds of a word would invite "&HFFFF".
+  std::int16_t value = -1;
+  ParseFailure([&] { value = ParseWord(text, name); });
   if (!IsSpeciesNumber(value)) {
     throw Failure(std::string(name) + ": \"" + std::string(text) + "\" is no species number. Type one from &H0 to " +
                   ToHexText(kSpeciesCount - 1) + ", or pick a species in the Pokemon list.");

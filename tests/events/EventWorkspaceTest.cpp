@@ -184,7 +184,8 @@ TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItL
        },
        {{0x1008, {0x96}}}, {}},  // the cry becomes the species
       {"AXVE", 3, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla2.text = "&HXYZ"; }, {{0x15DE26, {0x33, 0x00}}},
-       {"Cry: \"&HXYZ\" is not a word.", "The person record and the Pokemon word were saved. The Cry word was not."}},
+       {"Cry: \"&HXYZ\" is no species number. Type one from &H0 to &H19B",
+        "The person record and the Pokemon word were saved. The Cry word was not."}},
       {"AXVE", 3, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla2.text = "&HFFFF"; }, {{0x15DE26, {0x33, 0x00}}},
        {"Cry: \"&HFFFF\" is no species number",
         "The person record and the Pokemon word were saved. The Cry word was not."}},
