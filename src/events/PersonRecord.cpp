@@ -69,6 +69,10 @@ void ForEachField(Record& r, Visit visit) {
 }
 
 PersonRecord ReadPersonRecord(Form1& form, RomImage& rom) {
+  // The offset is no field a person types: before any pick there is none to ask for.
+  if (form.personOffset.empty()) {
+    throw Failure("No event is picked, so there is no person record to read. Pick an event in the list first.");
+  }
   rom.Seek(ParseOffset(form.personOffset, "Person offset"));
   return PersonRecord::FromBytes(rom.ReadBytes(PersonRecord::kSize));
 }
@@ -105,6 +109,7 @@ std::vector<std::string> MovementTypeTexts() {
 }
 
 void LoadPerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
+  form.personLoaded = false;  // until the Flag, the last field, has its text
   const PersonRecord record = ReadPersonRecord(form, rom);
   // The fields take their texts in the record's order, so a pointer that cannot become an
   // offset leaves the fields after it as they were.
@@ -116,6 +121,7 @@ void LoadPerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
   form.scripteh = script;
   form.flagtxt.text = ToHexText(record.flag);
   form.personFlag = record.flag;
+  form.personLoaded = true;
   form.tehe = std::to_string(form.Combo2.selected);
   LoadEventWords(form, rom, dialogs);
 }

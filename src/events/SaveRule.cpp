@@ -34,8 +34,8 @@ std::optional<std::string> WordsRefusal(const Form1& form) {
              "species of it. Press Load beside Script to read them, or pick a species in the Pokemon list.";
     case WordsToSave::State::NoSpecies:
       return "The " + words.word + " word at " + ToHexText(words.at) + " holds " + ToHexText(words.holds) +
-             ", which is no species number, so the Pokemon list shows none and there is no species to save. "
-             "Pick one in the Pokemon list first.";
+             ", which is no species number, so the Pokemon list was not moved to it and there is no species of "
+             "this event to save. Pick one in the Pokemon list first.";
   }
   return std::nullopt;
 }
@@ -45,8 +45,12 @@ std::optional<std::string> WordsRefusal(const Form1& form) {
 std::optional<std::string> SaveRefusal(const Form1& form, const RomImage& rom) {
   if (!rom.IsOpen()) return "No ROM is open. Open a ROM first.";
   if (!form.eventFieldsMatchRom) {
-    return "Pick an event in the list before saving: the event fields were not loaded from the ROM now open, "
+    return "Pick an event in the list before saving: no event was picked since the ROM now open was opened, "
            "and a save would write at offsets that may not belong to it.";
+  }
+  if (!form.personLoaded) {
+    return "The person record of this event was not loaded whole: its last load stopped before it reached the "
+           "Flag, so a save would write a Flag that was not read from the record.";
   }
   if (auto failure = ParseFailure([&] {
         ParseWord(form.spritetxt.text, "Sprite");
@@ -72,7 +76,10 @@ std::optional<std::string> SaveRefusal(const Form1& form, const RomImage& rom) {
 }
 
 std::int16_t SpeciesToWrite(std::string_view text, std::string_view name) {
-  const std::int16_t value = ParseWord(text, name);
+  // A text that is no word is no species number either: one sentence for both, with the
+  // species' own bounds, since the bounds of a word would invite "&HFFFF".
+  std::int16_t value = -1;
+  ParseFailure([&] { value = ParseWord(text, name); });
   if (!IsSpeciesNumber(value)) {
     throw Failure(std::string(name) + ": \"" + std::string(text) + "\" is no species number. Type one from &H0 to " +
                   ToHexText(kSpeciesCount - 1) + ", or pick a species in the Pokemon list.");

@@ -16,6 +16,8 @@ class RomImage;
 //   - a ROM is open;
 //   - the event fields were loaded from the ROM now open: after an Open ROM, an event must
 //     be picked again;
+//   - the last person load read the record whole, Flag included (a script pointer that
+//     cannot become an offset stops it before the Flag);
 //   - Sprite and Flag are words and Behavior a byte;
 //   - for an event with words, the word fields hold what the save may write into them
 //     (WordsToSave): its words were read and the one that the Pokemon list follows held a
@@ -29,8 +31,8 @@ class RomImage;
 // None when the save may run; else the sentence why not.
 std::optional<std::string> SaveRefusal(const Form1& form, const RomImage& rom);
 
-// The species number in a word field, to be written; a Failure where the text is no word
-// or the word no species number (0 to 411). `name` names the field in the sentence.
+// The species number in a word field, to be written; a Failure where the text is no species
+// number (0 to 411), a word or not. `name` names the field in the sentence.
 std::int16_t SpeciesToWrite(std::string_view text, std::string_view name);
 
 // Whether the word that stands in the ROM may be overwritten: a species number, wholly in

@@ -85,8 +85,10 @@ struct Form1 {
   std::int16_t personFlag = 0;  // the flag that the last person load read or save wrote
 
   // What a save may rely on (events/SaveRule.h): the event fields describe the ROM opened
-  // before until an event is picked again, and the word fields what WordsToSave says.
+  // before until an event is picked again; the person fields are the record's only after a
+  // load that read it whole, Flag included; and the word fields hold what WordsToSave says.
   bool eventFieldsMatchRom = true;
+  bool personLoaded = false;
   WordsToSave wordsToSave;
 
   // Script lister.

@@ -107,12 +107,15 @@ TEST(EventWorkspaceTest, ASaveThatCannotRunIsRefusedBeforeAnyWrite) {
       {"Behavior: \"&H100\"", [](Session& s) { s.form.behavtxt = "&H100"; }},
       {"Flag: \"&H10000\"", [](Session& s) { s.form.flagtxt.text = "&H10000"; }},
       {"Sprite: \"sprite\"", [](Session& s) { s.form.spritetxt.text = "sprite"; }},
-      {"Pick an event", [](Session& s) { s.Open(s.fixture.path()); }},  // the fields are not this open's
+      {"no event was picked since the ROM now open was opened",  // the fields are not this open's, loaded or not
+       [](Session& s) { s.Open(s.fixture.path()); LoadPerson(s.form, s.rom, s.dialogs); }},
       {"Script: \"abc\"", [](Session& s) { s.form.scriptpointxt.text = "abc"; }},
       {"Script: \"&H7FFFFFFF\"", [](Session& s) { s.form.scriptpointxt.text = "&H7FFFFFFF"; }},
       {"Script: \"-5\"", [](Session& s) { s.form.scriptpointxt.text = "-5"; }},
-      {"The Pokemon word at &HA00103 holds &H19C, which is no species number",  // Regiice's species stays listed
-       [](Session& s) { EXPECT_EQ(Fields(s.form)[7] + Fields(s.form)[8] + Fields(s.form)[10], "388&H19C&H0000"); },
+      {"The Pokemon word at &HA00103 holds &H19C, which is no species number, so the Pokemon list was not moved",
+       [](Session& s) {  // Regiice's species stays listed
+         EXPECT_EQ(Fields(s.form)[7] + Fields(s.form)[8] + Fields(s.form)[10], "388&H19C&H0000");
+       },
        [](FixtureRom& f) { f.PutWord(0xA00103, 412); }, "", [](Session& s) { SetCombo1Selection(s.form, 0x20); },
        {{0xA00108, 2}}},  // the first word is no species: left alone
       {"The words of this event were not loaded",  // a null script pointer fails the load after the person fields
@@ -122,6 +125,9 @@ TEST(EventWorkspaceTest, ASaveThatCannotRunIsRefusedBeforeAnyWrite) {
        },
        [](FixtureRom& f) { f.PutLong(0x38EE50 + 16, 0); }, "&HF8000003",
        [](Session& s) { LoadEventWords(s.form, s.rom, s.dialogs); }, {{0xA00108, 1}}},  // the Load beside Script
+      {"its last load stopped before it reached the Flag",  // a picked species frees the words, not the Flag
+       [](Session& s) { SetCombo1Selection(s.form, 0x20); }, [](FixtureRom& f) { f.PutLong(0x38EE50 + 16, 0x80000000); },
+       "does not lead into the ROM"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.says);
@@ -178,7 +184,8 @@ TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItL
        },
        {{0x1008, {0x96}}}, {}},  // the cry becomes the species
       {"AXVE", 3, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla2.text = "&HXYZ"; }, {{0x15DE26, {0x33, 0x00}}},
-       {"Cry: \"&HXYZ\" is not a word.", "The person record and the Pokemon word were saved. The Cry word was not."}},
+       {"Cry: \"&HXYZ\" is no species number. Type one from &H0 to &H19B",
+        "The person record and the Pokemon word were saved. The Cry word was not."}},
       {"AXVE", 3, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla2.text = "&HFFFF"; }, {{0x15DE26, {0x33, 0x00}}},
        {"Cry: \"&HFFFF\" is no species number",
         "The person record and the Pokemon word were saved. The Cry word was not."}},
@@ -252,6 +259,12 @@ TEST(EventWorkspaceTest, AnIndexThatNamesNoRowOfAListChangesNothing) {
   EXPECT_EQ(Fields(s.form), Fields(before));
   EXPECT_EQ(s.form.Combo1.text + s.form.Combo2.text + s.form.Combo3.text,
             before.Combo1.text + before.Combo2.text + before.Combo3.text);
+}
+
+TEST(EventWorkspaceTest, TheLoadOfAPersonBeforeAnyEventIsPickedAsksForAPick) {
+  Session s(test::EventFixtureRom("AXVE"));
+  EXPECT_EQ(test::FailureOf([&] { LoadPerson(s.form, s.rom, s.dialogs); }),
+            "No event is picked, so there is no person record to read. Pick an event in the list first.");
 }
 
 TEST(EventWorkspaceTest, TheWordLoadPutsTheFlagBackInRubyAndSapphire) {
