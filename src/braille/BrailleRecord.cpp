@@ -60,15 +60,10 @@ Bytes BrailleRecordBytes(const BrailleHeader& header, std::string_view text) {
 }
 
 Bytes BrailleScriptBytes(RomOffset brailleOffset) {
-  const auto pointer = static_cast<std::uint32_t>(ToGbaPointer(brailleOffset));
-  return {kLock,
-          kFacePlayer,
-          kBraille,
-          static_cast<std::uint8_t>(pointer),
-          static_cast<std::uint8_t>(pointer >> 8),
-          static_cast<std::uint8_t>(pointer >> 16),
-          static_cast<std::uint8_t>(pointer >> 24),
-          kEnd};
+  Bytes script{kLock, kFacePlayer, kBraille};
+  AppendLittleEndian(script, static_cast<std::uint32_t>(ToGbaPointer(brailleOffset)), 4);
+  script.push_back(kEnd);
+  return script;
 }
 
 void WriteBrailleRecord(RomImage& rom, RomOffset offset, const BrailleHeader& header, std::string_view text) {

@@ -14,12 +14,11 @@ class ScriptBytes {
     return *this;
   }
   ScriptBytes& Word(std::int16_t value) {
-    const auto bits = static_cast<std::uint16_t>(value);
-    return Byte(static_cast<std::uint8_t>(bits)).Byte(static_cast<std::uint8_t>(bits >> 8));
+    AppendLittleEndian(bytes_, static_cast<std::uint16_t>(value), 2);
+    return *this;
   }
   ScriptBytes& Pointer(RomOffset offset) {
-    const auto bits = static_cast<std::uint32_t>(ToGbaPointer(offset));
-    for (int shift = 0; shift < 32; shift += 8) Byte(static_cast<std::uint8_t>(bits >> shift));
+    AppendLittleEndian(bytes_, static_cast<std::uint32_t>(ToGbaPointer(offset)), 4);
     return *this;
   }
   ScriptBytes& Zeros(int count) {
