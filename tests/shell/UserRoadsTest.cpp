@@ -8,6 +8,7 @@
 #include <random>
 #include <regex>
 
+#include "editors/NameEditors.h"
 #include "events/EventSelection.h"
 #include "events/PersonRecord.h"
 #include "rom/FilePath.h"
@@ -22,6 +23,9 @@
 #include "support/Failures.h"
 #include "support/ReadOnlyFile.h"
 #include "support/ScriptedDialogs.h"
+#include "text/Braille2Text.h"
+#include "text/Table2Text.h"
+#include "text/mdlTextSapp.h"
 
 #ifndef _WIN32
 #include <fcntl.h>
@@ -102,6 +106,42 @@ struct User {
     if (!list.rows.empty()) set(form, Die(std::ssize(list.rows)));
   }
 
+  // A builder's fields, filled for all three forms at once; then the form's button.
+  void Insert(WindowName window, Ranges& may) {
+    Load(window);
+    for (TextBox* field : {&s.form3.pkmntxt, &s.form4.pkmntxt, &s.form5.pkmntxt, &s.form3.crytxt, &s.form4.crytxt,
+                           &s.form3.Text2, &s.form4.Text2, &s.form5.Text2}) {
+      field->text = Number(field == &s.form5.Text2 ? 347 : 412);
+    }
+    Pick(s.form3, s.form3.Combo3, SetCombo3Selection);
+    Pick(s.form4, s.form4.Combo3, SetCombo3Selection);
+    Pick(s.form5, s.form5.Combo3, SetCombo3Selection);
+    s.form3.Text3.text = s.form4.Text3.text = s.form5.Text3.text = Offset();
+    s.form4.Text12.text = s.form5.Text12.text = Offset();
+    const std::string message = Text("ABC xyz[N]\\p&"), at = s.form5.Text3.text;
+    ui.inputAnswers = {message};
+    const ByteRange text = From(s.form5.Text12.text, 0, std::ssize(EncodeMessageText(message)) + 2);
+    if (window == WindowName::Form3) {
+      may = {From(at, 0, 13)};
+      InsertWildBattle(s.form3, s.rom, ui);
+    } else if (window == WindowName::Form4) {
+      may = {From(at, 0, 20), text};
+      InsertWildBattle(s.form4, s.rom, ui);
+    } else {  // the body and the declined branch over its last two bytes, the no-room branch, the two texts
+      may = {From(at, 0, 83), From(at, 93, 9), From(at, 103, 48), text};
+      InsertGivePokemon(s.form5, s.rom, ui);
+    }
+  }
+  // Only the bytes the encoder gives for the name as cut or filled: "[PK]" is four characters and one byte.
+  void Rename(bool item, Ranges& may) {
+    const std::string entry = Number(item ? 347 : 412), name = Text("ABCxyz 019[PK]\\h");
+    ui.inputAnswers = {entry, name};
+    if (item) RequireForm5Loaded(s);  // where the action finds the item table
+    may = {From(item ? s.form1.itemRecords : s.form1.Label20, ParseLenient(entry) * (item ? 44 : 11),
+                std::ssize(EncodeGameText(FitName(name, item ? 14 : 11))))};
+    RunMenuEntry(item ? MenuEntry::mnuediten : MenuEntry::mnuedipmon, s, ui);
+  }
+
   struct Action {
     std::string_view name;
     bool writes;
@@ -133,25 +173,9 @@ struct User {
                 From(script, event.secondAt, event.firstAt < 0 ? 0 : 2)};
          if (s.form1.Command9.enabled) SavePerson(s.form1, s.rom, ui);
        }},
-      {"insert a script", true, [this](Ranges& may) {
-         const int form = 3 + Die(3);  // Form3, Form4 or Form5
-         Load(form == 3 ? WindowName::Form3 : form == 4 ? WindowName::Form4 : WindowName::Form5);
-         for (TextBox* field : {&s.form3.pkmntxt, &s.form4.pkmntxt, &s.form5.pkmntxt, &s.form3.crytxt, &s.form4.crytxt,
-                                &s.form3.Text2, &s.form4.Text2, &s.form5.Text2}) {
-           field->text = Number(field == &s.form5.Text2 ? 347 : 412);
-         }
-         Pick(s.form3, s.form3.Combo3, SetCombo3Selection);
-         Pick(s.form4, s.form4.Combo3, SetCombo3Selection);
-         Pick(s.form5, s.form5.Combo3, SetCombo3Selection);
-         s.form3.Text3.text = s.form4.Text3.text = s.form5.Text3.text = Offset();
-         s.form4.Text12.text = s.form5.Text12.text = Offset();
-         ui.inputAnswers = {Text("ABC xyz[N]\\p&")};
-         may = {From(s.form5.Text3.text, 0, form == 5 ? 151 : form == 4 ? 20 : 13),
-                From(form == 3 ? "" : s.form5.Text12.text, 0, std::ssize(*ui.inputAnswers[0]) + 2)};
-         if (form == 3) InsertWildBattle(s.form3, s.rom, ui);
-         if (form == 4) InsertWildBattle(s.form4, s.rom, ui);
-         if (form == 5) InsertGivePokemon(s.form5, s.rom, ui);
-       }},
+      {"insert a wild battle", true, [this](Ranges& may) { Insert(WindowName::Form3, may); }},
+      {"insert a wild battle with a message", true, [this](Ranges& may) { Insert(WindowName::Form4, may); }},
+      {"insert a gift", true, [this](Ranges& may) { Insert(WindowName::Form5, may); }},
       {"save the starters", true, [this](Ranges& may) {
          if (careful || Die(4) > 0) Load(WindowName::Form2);  // else the form on show, maybe of the ROM before
          Pick(s.form2, s.form2.Combo1, SetCombo1Selection);
@@ -161,14 +185,8 @@ struct User {
          }
          PressSave(s.form2, s.form1, s.rom, ui);
        }},
-      {"rename a Pokemon or an item", true, [this](Ranges& may) {
-         const bool item = Die(2);
-         ui.inputAnswers = {Number(item ? 347 : 412), Text("ABCxyz 019[PK]\\h")};
-         if (item) RequireForm5Loaded(s);  // where the action finds the item table
-         may = {From(item ? s.form1.itemRecords : s.form1.Label20, ParseLenient(*ui.inputAnswers[0]) * (item ? 44 : 11),
-                     item ? 14 : 11)};
-         RunMenuEntry(item ? MenuEntry::mnuediten : MenuEntry::mnuedipmon, s, ui);
-       }},
+      {"rename a Pokemon", true, [this](Ranges& may) { Rename(false, may); }},
+      {"rename an item", true, [this](Ranges& may) { Rename(true, may); }},
       {"save a landing tile", true, [this](Ranges& may) {
          Load(WindowName::Form8);
          const FlyTable* table = FindFlyTable(s.form1.headtxt);
@@ -190,7 +208,8 @@ struct User {
          form.Text2.text = Offset();
          form.Text3.text = Offset();
          ui.messageAnswers = {careful || Die(4) ? MessageAnswer::Yes : MessageAnswer::No};
-         may = {From(form.Text2.text, 0, std::ssize(form.Text1.text) + 8), From(form.Text3.text, 0, 8)};
+         // the header, the cells, FF 00; the script of 8 bytes
+         may = {From(form.Text2.text, 0, std::ssize(EncodeBrailleText(form.Text1.text)) + 8), From(form.Text3.text, 0, 8)};
          PressInsert(form, s.rom, ui);
          PressLoad(form, s.rom);
        }},
@@ -302,11 +321,10 @@ TEST(UserRoadsTest, OnABrokenRomEveryButtonSaysWhyAndWritesNothing) {
       }
     }
     if (row.breakIt) row.breakIt(user);
-    for (const User::Action& action : user.actions) {
-      const std::string sentence = user.Do(action.name);  // one that only reads may fail for a reason of its own
-      if (action.writes) {
-        EXPECT_TRUE(std::regex_search(sentence, std::regex(row.sentence))) << action.name << ": " << sentence;
-      }
+    for (const User::Action& action : user.actions) {  // one that only reads may also run through
+      const std::string sentence = user.Do(action.name);
+      EXPECT_TRUE((!action.writes && sentence.empty()) || std::regex_search(sentence, std::regex(row.sentence)))
+          << action.name << ": " << sentence;
     }
     readOnly.reset();
     const Bytes now = test::ReadWholeFile(path);  // every byte as it was, the cut ones cut
@@ -331,7 +349,7 @@ TEST(UserRoadsTest, WhatASaveWroteIsInTheFileWhenTheProcessIsKilledRightAfter) {
   test::FixtureRom killed = RoadRom("AXPE");
   test::FixtureRom lived = RoadRom("AXPE");
   const std::vector<std::vector<std::string_view>> roads = {
-      {"pick an event", "pick and type in the event fields", "save the event"}, {"insert a script"}, {"save a landing tile"}};
+      {"pick an event", "pick and type in the event fields", "save the event"}, {"insert a gift"}, {"save a landing tile"}};
   for (std::uint32_t seed = 0; seed < roads.size(); ++seed) {
     const auto walk = [&](const std::string& path, bool dies) {
       User user(seed, true);
