@@ -23,11 +23,14 @@ QByteArray Fields(std::initializer_list<std::pair<quint32, int>> fields) {
 
 // Picture files that the braille inserter and Wingfall may be given, made here: three whose
 // header claims a picture of 9000 by 9000 or 65535 by 65535 pixels, a BMP cut off in its
-// pixels, and random bytes. Each is refused with a sentence, never decoded into a picture.
+// pixels, and random bytes. Each is refused with a sentence, never decoded into a picture;
+// whole BMPs are read, also one of a single pixel in the old, short header (30 bytes in all).
 TEST(PictureFilesTest, AHugeCutOrMeaninglessPictureIsRefusedFromItsHeader) {
   QByteArray cut;
   QBuffer buffer(&cut);
-  QImage(64, 64, QImage::Format_RGB32).save(&buffer, "BMP");
+  QImage picture(64, 64, QImage::Format_RGB32);
+  picture.fill(Qt::darkGreen);
+  picture.save(&buffer, "BMP");
   const QByteArray whole = cut;
   cut.truncate(cut.size() / 2);
   QByteArray noise(4096, '\0');
@@ -46,6 +49,7 @@ TEST(PictureFilesTest, AHugeCutOrMeaninglessPictureIsRefusedFromItsHeader) {
       {"cut.bmp", cut, "\"cut.bmp\""},
       {"noise.gif", noise, "\"noise.gif\" is no picture"},
       {"whole.bmp", whole, ""},  // and the BMP before it was cut is read
+      {"dot.bmp", "BM" + Fields({{30, 4}, {0, 4}, {26, 4}, {12, 4}, {1, 2}, {1, 2}, {1, 2}, {24, 2}, {0xFF, 4}}), ""},
   };
   QTemporaryDir folder;
   for (const auto& row : rows) {
