@@ -29,6 +29,7 @@
 
 #ifndef _WIN32
 #include <signal.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #endif
@@ -277,6 +278,7 @@ TEST(UserRoadsTest, OnABrokenRomEveryButtonSaysWhyAndWritesNothing) {
   const std::filesystem::path folder = test::TemporaryPath("a folder.gba");
   std::filesystem::create_directories(folder);
   test::FixtureRom tooShort = test::FixtureRom::TooShort();
+  const std::string pipe = ToPathText(test::TemporaryPath("a pipe.gba"));
   struct Row {
     const char* broken;
     std::function<void(User&)> breakIt;  // none: the file is read-only
@@ -291,6 +293,7 @@ TEST(UserRoadsTest, OnABrokenRomEveryButtonSaysWhyAndWritesNothing) {
       {"a folder", [&](User& u) { u.Open(ToPathText(folder)); }, "^$|No ROM is open|Pick an event|is not an offset"},
       {"cancelled in the Open dialog", [&](User& u) { u.Open(""); }, "No ROM is open"},
 #ifndef _WIN32
+      {"a pipe", [&](User& u) { mkfifo(pipe.c_str(), 0600), u.Open(pipe), std::filesystem::remove(pipe); }, "^$|No ROM is open|is not an offset"},
       {"on a full disk", [&](User& u) { u.s.rom.Open("/dev/full"); }, "No space left on device"},
 #endif
   };
