@@ -176,7 +176,8 @@ struct User {
       {"insert a wild battle with a message", true, [this](Ranges& may) { Insert(WindowName::Form4, may); }},
       {"insert a gift", true, [this](Ranges& may) { Insert(WindowName::Form5, may); }},
       {"save the starters", true, [this](Ranges& may) {
-         if (careful || Die(4) > 0) Load(WindowName::Form2);  // else the form on show, maybe of the ROM before
+         // Else the form on show, maybe of the ROM before. A load that fails leaves the window standing.
+         if (careful || Die(4) > 0) test::FailureOf([this] { Load(WindowName::Form2); });
          Pick(s.form2, s.form2.Combo1, SetCombo1Selection);
          s.form2.balltxt3.text = Number(0x10000);
          for (const RomOffset ball : FindStarterOffsets(s.form1.headtxt).value_or(StarterOffsets{})) {
@@ -187,10 +188,12 @@ struct User {
       {"rename a Pokemon", true, [this](Ranges& may) { Rename(false, may); }},
       {"rename an item", true, [this](Ranges& may) { Rename(true, may); }},
       {"save a landing tile", true, [this](Ranges& may) {
-         Load(WindowName::Form8);
          const FlyTable* table = FindFlyTable(s.form1.headtxt);
          const int index = Die(kFlyRecordCount);
-         SelectLocation(s.form8, s.rom, s.form1.headtxt, table ? table->list : LocationListName::hoenn, index);
+         test::FailureOf([&] {  // the window stands also where its load fails
+           Load(WindowName::Form8);
+           SelectLocation(s.form8, s.rom, s.form1.headtxt, table ? table->list : LocationListName::hoenn, index);
+         });
          s.form8.XXt.text = Number(0x100);
          s.form8.YYt.text = Number(0x100);
          const std::string record = table ? Hex(FlyRecordOffset(*table, index)) : "";
