@@ -49,8 +49,9 @@ bench: deps
 
 # The fuzz targets (fuzz/) built with clang, libFuzzer, AddressSanitizer and
 # UndefinedBehaviorSanitizer, each run for FUZZ_SECONDS on a corpus of its own under
-# build/fuzz/corpus, starting from its regression inputs. A crash stops the run and leaves the
-# input in build/fuzz; it goes into fuzz/regressions/<target>, which make test replays.
+# build/fuzz/corpus, starting from its regression inputs. A crash, or an input that runs
+# longer than 10 s (a hang), stops the run and leaves the input in build/fuzz; it goes into
+# fuzz/regressions/<target>, which make test replays.
 # The last line of each run (executions, coverage) is gathered in build/fuzz/summary.txt.
 FUZZ_SECONDS ?= 60
 FUZZ_TARGETS = HexField GameText ListScript BrailleRecord FlyRecord EventLoad
@@ -63,7 +64,7 @@ fuzz:
 	@rm -f build/fuzz/summary.txt
 	@for t in $(FUZZ_TARGETS); do \
 	  mkdir -p build/fuzz/corpus/$$t; \
-	  build/fuzz/fuzz/fuzz_$$t -max_total_time=$(FUZZ_SECONDS) -print_final_stats=1 -artifact_prefix=build/fuzz/$$t- \
+	  build/fuzz/fuzz/fuzz_$$t -max_total_time=$(FUZZ_SECONDS) -timeout=10 -print_final_stats=1 -artifact_prefix=build/fuzz/$$t- \
 	    build/fuzz/corpus/$$t $$(ls -d fuzz/regressions/$$t 2>/dev/null) 2>build/fuzz/$$t.log || { tail -40 build/fuzz/$$t.log; exit 1; }; \
 	  echo "$$t: $$(grep -E '^#[0-9]+[[:space:]]+DONE' build/fuzz/$$t.log)" | tee -a build/fuzz/summary.txt; \
 	done

@@ -12,29 +12,22 @@
 #include "support/EventFixtures.h"
 #include "support/MainSession.h"
 
-namespace tessarine::test {
-namespace {
-
-// A game's fixture, open in a session of its own from the first input that picks it.
-struct Game {
-  explicit Game(std::string_view code) : fixture(EventFixtureRom(code)), events(FixtureEvents(code)) {
-    session.Open(fixture.path());
-  }
-  FixtureRom fixture;
-  std::vector<FixtureEvent> events;
-  MainSession session;
-};
-
-}  // namespace
-}  // namespace tessarine::test
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace tessarine;
-  static std::unique_ptr<test::Game> games[4];
+  struct Game {  // a game's fixture, open in a session of its own from the first input that picks it
+    test::FixtureRom fixture;
+    std::vector<test::FixtureEvent> events;
+    test::MainSession session;
+  };
+  static std::unique_ptr<Game> games[4];
   fuzz::Input in{{data, size}};
   const std::uint32_t which = in.Number(1) % 4;
-  if (!games[which]) games[which] = std::make_unique<test::Game>(std::array{"AXVE", "AXPE", "BPRE", "BPGE"}[which]);
-  test::Game& game = *games[which];
+  const std::string_view code = std::array{"AXVE", "AXPE", "BPRE", "BPGE"}[which];
+  if (!games[which]) {
+    games[which].reset(new Game{test::EventFixtureRom(code), test::FixtureEvents(code)});
+    games[which]->session.Open(games[which]->fixture.path());
+  }
+  Game& game = *games[which];
   RomImage& rom = game.session.rom;
   const int index = static_cast<int>(in.Number(1) % 8);  // the lists hold 7 and 6 entries
   const bool listed = static_cast<std::size_t>(index) < game.events.size();

@@ -15,13 +15,14 @@ bool HoldsItsPixels(QIODevice& device) {
   device.seek(0);
   const QByteArray header = device.read(34);
   device.seek(position);
-  if (header.size() < 34) return false;
   const auto field = [&](int at, int width) {
     qint64 value = 0;
     for (int i = width - 1; i >= 0; --i) value = (value << 8) | static_cast<quint8>(header[at + i]);
     return value;
   };
+  if (header.size() < 18) return false;
   const bool core = field(14, 4) < 40;  // the old header of 12 bytes: 16-bit sizes, no compression
+  if (header.size() < (core ? 26 : 34)) return false;  // a file of one pixel may end before byte 34
   const qint64 width = core ? field(18, 2) : static_cast<qint32>(field(18, 4));
   const qint64 height = core ? field(20, 2) : static_cast<qint32>(field(22, 4));
   const qint64 bits = field(core ? 24 : 28, 2);

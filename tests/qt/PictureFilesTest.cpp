@@ -23,12 +23,19 @@ QByteArray Fields(std::initializer_list<std::pair<quint32, int>> fields) {
 
 // Picture files that the braille inserter and Wingfall may be given, made here: three whose
 // header claims a picture of 9000 by 9000 or 65535 by 65535 pixels, a BMP cut off in its
-// pixels, and random bytes. Each is refused with a sentence, never decoded into a picture.
+// pixels, and random bytes. Each is refused with a sentence, never decoded into a picture;
+// whole BMPs are read, also one of a single pixel in the old, short header (30 bytes in all).
 TEST(PictureFilesTest, AHugeCutOrMeaninglessPictureIsRefusedFromItsHeader) {
   QByteArray cut;
   QBuffer buffer(&cut);
-  QImage(64, 64, QImage::Format_RGB32).save(&buffer, "BMP");
+  QImage picture(64, 64, QImage::Format_RGB32);
+  picture.fill(Qt::darkGreen);
+  picture.save(&buffer, "BMP");
   const QByteArray whole = cut;
+  QByteArray hugeJpeg;  // a whole JPEG whose frame header then claims 60000 by 60000 pixels
+  QBuffer jpegBuffer(&hugeJpeg);
+  picture.save(&jpegBuffer, "JPG");
+  hugeJpeg.replace(hugeJpeg.indexOf("\xFF\xC0") + 5, 4, QByteArray::fromHex("EA60EA60"));
   cut.truncate(cut.size() / 2);
   QByteArray noise(4096, '\0');
   QRandomGenerator(14).fillRange(reinterpret_cast<quint32*>(noise.data()), noise.size() / 4);
@@ -42,10 +49,11 @@ TEST(PictureFilesTest, AHugeCutOrMeaninglessPictureIsRefusedFromItsHeader) {
       {"huge.gif", "GIF89a" + Fields({{65535, 2}, {65535, 2}, {0, 3}}) + "," + Fields({{0, 4}, {65535, 2}, {65535, 2}, {0, 1}}) +
                        Fields({{2, 1}, {0x014C02, 3}, {0, 1}}) + ";",
        "65535 by 65535"},
-      {"huge.jpg", QByteArray::fromHex("FFD8FFC0000B08EA60EA6001011100FFD9"), "\"huge.jpg\""},
+      {"huge.jpg", hugeJpeg, "60000 by 60000"},
       {"cut.bmp", cut, "\"cut.bmp\""},
       {"noise.gif", noise, "\"noise.gif\" is no picture"},
       {"whole.bmp", whole, ""},  // and the BMP before it was cut is read
+      {"dot.bmp", "BM" + Fields({{30, 4}, {0, 4}, {26, 4}, {12, 4}, {1, 2}, {1, 2}, {1, 2}, {24, 2}, {0xFF, 4}}), ""},
   };
   QTemporaryDir folder;
   for (const auto& row : rows) {
