@@ -3,6 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <utility>
+
+#include "flyland/FlyRecords.h"
+#include "flyland/MapImages.h"
+#include "flyland/MapView.h"
 #include "rom/RomImage.h"
 #include "support/ByteOracle.h"
 #include "support/Failures.h"
@@ -14,21 +19,84 @@ namespace {
 
 using test::ByteOracle;
 using test::ByteRange;
+using test::FailureOf;
+using test::FixtureRom;
+using test::ScriptedDialogs;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
+// Each game's record at its own place: bank at +2, level at +3, X at +4, Y at +6. The
+// records beside it hold other bytes, so a record taken from the wrong place shows.
+TEST(FlyRecordsTest, EachGameReadsItsRecordFromItsOwnTable) {
+  const std::tuple<const char*, int, std::size_t> cases[] = {{"AXPE", 0, 0x3E5A86},  {"AXPE", 19, 0x3E5B1E},
+                                                             {"AXVE", 17, 0x3E5AB6}, {"BPRE", 8, 0x3EEC36},
+                                                             {"BPGE", 0, 0x3EEA32},  {"BPEJ", 3, 0x57B132}};
+  for (const auto& [code, index, offset] : cases) {
+    SCOPED_TRACE(std::string(code) + " " + std::to_string(index));
+    FixtureRom fixture(code);
+    fixture.PutBytes(offset - 8, Bytes(24, 0x99)).PutBytes(offset, {0, 0, 0x1A, 0, 0x2B, 0, 0x3C, 0});
+    RomImage rom;
+    rom.Open(fixture.path());
+    const auto record = ReadFlyRecord(rom, code, index);
+    ASSERT_TRUE(record.has_value());
+    EXPECT_EQ(BankText(record->bank) + LevelText(record->level), "B:1AL:0");
+    EXPECT_EQ(record->X, 0x2B);
+    EXPECT_EQ(record->Y, 0x3C);
+  }
+}
+
+// A save parses X and then Y before it writes, and changes bytes 4 and 6 at most.
+TEST(FlyRecordsTest, ASaveChangesOnlyXAndYAndNothingWhenEitherTextIsNoByte) {
+  constexpr std::size_t kAt = 0x3EEBF6 + 8 * 11;  // FireRed, "Route 4"
+  const Bytes kRecord = {0x11, 0x22, 0x03, 0x04, 0x05, 0x66, 0x07, 0x88};
+  struct Case {
+    const char *x, *y;
+    std::vector<ByteRange> changed;
+    std::uint8_t newX, newY;
+    const char* failure;  // part of the sentence, "" for none
+  };
+  const Case cases[] = {
+      {"&H1F", "&H20", {{kAt + 4, 1}, {kAt + 6, 1}}, 0x1F, 0x20, ""}, {"31", "7", {{kAt + 4, 1}}, 0x1F, 0x07, ""},
+      {"&HFF", " &h7 ", {{kAt + 4, 1}}, 0xFF, 0x07, ""},
+      {"&H100", "&H20", {}, 0x05, 0x07, "X: \"&H100\" is not a byte."},
+      {"&H1F", "abc", {}, 0x05, 0x07, "Y: \"abc\" is not a byte."},
+  };
+  FixtureRom fixture = FixtureRom::FireRed();
+  RomImage rom;
+  rom.Open(fixture.path());
+  for (const Case& c : cases) {
+    SCOPED_TRACE(std::string(c.x) + " / " + c.y);
+    rom.WriteBytes(kAt, kRecord);
+    const ByteOracle oracle(fixture.path());
+    std::optional<FlyRecord> saved;
+    const std::string failure = FailureOf([&] { saved = WriteFlyPosition(rom, "BPRE", 11, c.x, c.y); });
+    if (*c.failure != '\0') {
+      EXPECT_THAT(failure, HasSubstr(std::string(c.failure) + " Type a number"));
+      EXPECT_THAT(failure, HasSubstr("Nothing was saved."));
+    } else {
+      ASSERT_EQ(failure, "");
+      EXPECT_EQ(std::vector<int>({saved->bank, saved->level, saved->X, saved->Y}),
+                std::vector<int>({0x03, 0x04, c.newX, c.newY}));
+    }
+    EXPECT_EQ(oracle.Changes(), c.changed);
+    const Bytes now = oracle.Now();
+    EXPECT_EQ(Bytes(now.begin() + kAt, now.begin() + kAt + 8), Bytes({0x11, 0x22, 0x03, 0x04, c.newX, 0x66, c.newY, 0x88}));
+  }
+  EXPECT_THAT(FailureOf([&] { ReadFlyRecord(rom, "BPRE", 20); }), HasSubstr("no fly record 20"));
+  RomImage closed;
+  EXPECT_FALSE(ReadFlyRecord(closed, "axpe", 0).has_value());  // no table: not even a closed file is asked
+}
+
 TEST(Form8Test, TheWindowOpensByTheGameCode) {
   const std::tuple<const char*, bool, MapPicture, const char*, bool> cases[] = {
       // code, kanto on show, picture, Text1 and HScroll1.Max, controls of a record enabled
-      {"AXVE", false, MapPicture::Picture2, "&H14 10", true}, {"AXPE", false, MapPicture::Picture2, "&H14 10", true},
-      {"BPEJ", false, MapPicture::Picture3, "&H14 10", true}, {"BPRE", true, MapPicture::Picture4, "&H18 12", true},
-      {"BPGE", true, MapPicture::Picture4, "&H18 12", true},  {"bpre", false, MapPicture::Picture2, "&H14 10", false},
-      {"", false, MapPicture::Picture2, "&H14 10", false}};
+      {"AXVE", false, MapPicture::Picture2, "&H14 10", true}, {"BPEJ", false, MapPicture::Picture3, "&H14 10", true},
+      {"BPGE", true, MapPicture::Picture4, "&H18 12", true},  {"bpre", false, MapPicture::Picture2, "&H14 10", false}};
   for (const auto& [code, kanto, picture, across, enabled] : cases) {
     SCOPED_TRACE(code);
     Form8 form;
-    test::ScriptedDialogs dialogs;
+    ScriptedDialogs dialogs;
     LoadForm8(form, code, dialogs);
     EXPECT_EQ(form.kanto.visible, kanto);
     EXPECT_EQ(form.hoenn.visible, !kanto);
@@ -50,7 +118,7 @@ struct Wingfall : ::testing::Test {
   static constexpr std::size_t kFirst = 0x3E5A2E;
   test::FixtureRom fixture = test::FixtureRom::Ruby();
   RomImage rom;
-  test::ScriptedDialogs dialogs;
+  ScriptedDialogs dialogs;
   Form8 form;
   std::string headtxt = "AXVE";
 
@@ -79,10 +147,11 @@ TEST_F(Wingfall, LoadRightAfterOpeningTakesRecord0AndAPickLoadsAtOnce) {
   EXPECT_EQ(Landing(), "B:2 L:C &H21 &H13 at 528,304");
 }
 
+// A save shows what the ROM now holds; a refused text writes nothing, says no "Saved" and
+// keeps what was typed.
 TEST_F(Wingfall, SaveWritesTheTypedTileAndShowsWhatTheRomNowHolds) {
   const std::tuple<const char*, const char*, std::vector<ByteRange>, const char*> cases[] = {
       {"&H00", "&H00", {{kFirst + 4, 1}, {kFirst + 6, 1}}, "B:1A L:0 &H0 &H0 at 0,0"},  // the start texts
-      {"&H05", "&H7", {}, "B:1A L:0 &H5 &H7 at 80,112"},
       {"10", "&H7", {{kFirst + 4, 1}}, "B:1A L:0 &HA &H7 at 160,112"}};
   for (const auto& [x, y, changed, shown] : cases) {
     SCOPED_TRACE(std::string(x) + " / " + y);
@@ -96,23 +165,135 @@ TEST_F(Wingfall, SaveWritesTheTypedTileAndShowsWhatTheRomNowHolds) {
     EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("Saved"));
     EXPECT_EQ(Landing(), shown);
   }
+  dialogs.messages.clear();
+  form.YYt.text = "&H100";
+  EXPECT_THAT(FailureOf([&] { Save(); }), HasSubstr("Y: \"&H100\" is not a byte."));
+  EXPECT_EQ(form.XXt.text + form.YYt.text, "&HA&H100");
+  EXPECT_THAT(dialogs.messages, IsEmpty());
 }
 
-// A refused text, and a code of the moment without a fly table (the main window opened
-// another ROM): nothing written, no "Saved"; the first keeps what was typed and loads nothing.
-TEST_F(Wingfall, ASaveThatCannotWriteSaysNoSaved) {
-  const ByteOracle oracle(fixture.path());
-  form.XXt.text = "&H1F";
-  form.YYt.text = "&H100";
-  EXPECT_THAT(test::FailureOf([&] { Save(); }), HasSubstr("Y: \"&H100\" is not a byte."));
-  EXPECT_EQ(form.XXt.text + form.YYt.text, "&H1F&H100");
-  EXPECT_FALSE(form.Shape2.visible);
-  headtxt = "BPEE";
-  Save();
-  EXPECT_EQ(form.XXt.text + form.YYt.text, "&H1F&H100");
-  EXPECT_TRUE(form.Shape2.visible && form.Image1.visible);
-  EXPECT_THAT(dialogs.messages, IsEmpty());
-  EXPECT_THAT(oracle.Changes(), IsEmpty());
+constexpr MapSizeField T1 = MapSizeField::Text1, T2 = MapSizeField::Text2;
+
+// A map of 20 by 20 tiles on a surface of 320 by 320, as the window opens on it.
+Form8 TwentyByTwenty() {
+  Form8 form;
+  SetMapSizeText(form, T1, "&H14");
+  SetMapSizeText(form, MapSizeField::Text2, "&H14");
+  return form;
+}
+
+TEST(MapViewTest, ASizeFieldSetsItsSideWhenItIsANumberAndTheScrollRangesAlways) {
+  struct Case {
+    MapSizeField field;
+    const char* text;
+    int width, height;
+    const char* ops;  // op and op2
+    int hMax, vMax;
+  };
+  const Case cases[] = {
+      {T1, "&H28", 640, 320, "40/20", 20, 10}, {T1, "21", 336, 320, "21/20", 10, 10},
+      {T1, "23", 368, 320, "23/20", 12, 10},   {T1, "abc", 320, 320, "0/20", 0, 10},
+      {T1, "12x", 320, 320, "12/20", 6, 10},   {T1, "0", 0, 320, "0/20", 0, 10},
+      {T1, "4094", 65504, 320, "4094/20", 2047, 10}, {T1, "4095", 320, 320, "4095/20", 2048, 10},
+      {T1, "65534", 320, 320, "65534/20", 32767, 10},
+      {T1, "65535", 320, 320, "65535/20", 10, 10},  // a half beyond 16 bits: Max stays
+      {T2, "&H1E", 320, 480, "20/30", 10, 15}, {T2, "&H7", 320, 112, "20/7", 10, 4},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.text);
+    Form8 form = TwentyByTwenty();
+    SetMapSizeText(form, c.field, c.text);
+    EXPECT_EQ(form.Picture2.Width, c.width);
+    EXPECT_EQ(form.Picture2.Height, c.height);
+    EXPECT_EQ(form.op + "/" + form.op2, c.ops);
+    EXPECT_EQ(form.HScroll1.Max, c.hMax);
+    EXPECT_EQ(form.VScroll1.Max, c.vMax);
+  }
+}
+
+TEST(MapViewTest, ABarMovesTheSurfaceSixteenPixelsAStepAndComesBackToALowerMax) {
+  Form8 form = TwentyByTwenty();
+  SetMapSizeText(form, T1, "5000");  // Max 2500, beyond what 16 bits reach
+  constexpr ScrollBarName H = ScrollBarName::HScroll1, V = ScrollBarName::VScroll1;
+  const std::tuple<ScrollBarName, int, int, int, int> steps[] = {  // bar, value; Value, Left, Top
+      {H, 3, 3, -48, 0},        {V, 4, 4, -48, -64},           {V, 99, 10, -48, -160},
+      {H, -1, 0, 0, -160},      {H, 2047, 2047, -32752, -160}, {H, 2048, 2048, -32752, -160}};
+  for (const auto& [bar, value, expected, left, top] : steps) {
+    SCOPED_TRACE(value);
+    SetScrollValue(form, bar, value);
+    EXPECT_EQ((bar == H ? form.HScroll1 : form.VScroll1).Value, expected);
+    EXPECT_EQ(form.Picture2.Left, left);
+    EXPECT_EQ(form.Picture2.Top, top);
+  }
+  SetMapSizeText(form, T1, "8");  // Max 4: the bar comes back, and the surface with it
+  EXPECT_EQ(form.HScroll1.Value, 4);
+  EXPECT_EQ(form.Picture2.Left, -64);
+}
+
+TEST(MapViewTest, APressNamesTheTileUnderItAndPutsTheMarkersOnItsCornerAndOneOffTheSurfaceDoesNot) {
+  const std::tuple<int, int, const char*, const char*, int, int> cases[] = {
+      {15, 15, "&H0", "&H0", 0, 0},   {16, 16, "&H1", "&H1", 16, 16},       {37, 20, "&H2", "&H1", 32, 16},
+      {85, 20, "&H5", "&H1", 80, 16}, {4111, 0, "&H100", "&H0", 4096, 0}};
+  for (const auto& [px, py, x, y, left, top] : cases) {
+    SCOPED_TRACE(std::to_string(px) + "," + std::to_string(py));
+    Form8 form = TwentyByTwenty();
+    SetMapSizeText(form, T1, "300");  // 4800 pixels: room for a tile beyond 255
+    PointerMoved(form, px, py);
+    EXPECT_EQ(form.XXt.text, "&H00");  // a move names no landing
+    PointerPressed(form, px, py);
+    EXPECT_EQ(form.XXt.text + form.YYt.text, std::string(x) + y);
+    for (const Marker* m : {&form.Shape1, &form.Shape2, &form.Image1}) {
+      EXPECT_EQ(std::pair(m->Left, m->Top), std::pair(left, top));
+    }
+    EXPECT_TRUE(form.Image1.visible);
+    EXPECT_FALSE(form.Shape2.visible);  // shown only by a load
+  }
+  // While a button is held the surface is handed every move and press, also those beyond its
+  // edges: they name no tile and move no marker.
+  Form8 form = TwentyByTwenty();
+  PointerPressed(form, 40, 40);
+  for (const auto& [px, py] : {std::pair(-1, 5), std::pair(5, -20), std::pair(320, 5), std::pair(5, 320)}) {
+    PointerMoved(form, px, py);
+    PointerPressed(form, px, py);
+  }
+  EXPECT_EQ(form.XXt.text + form.YYt.text, "&H2&H2");
+  for (const Marker* m : {&form.Shape1, &form.Shape2, &form.Image1}) {
+    EXPECT_EQ(std::pair(m->Left, m->Top), std::pair(32, 32));
+  }
+}
+
+// Pictures from files and the clipboard: `next` is taken once, and then there is none.
+struct ScriptedPictures : MapPictures {
+  std::optional<PictureSize> next;
+  std::optional<PictureSize> Take() { return std::exchange(next, std::nullopt); }
+  std::optional<PictureSize> TakeFile(const std::string&) override { return Take(); }
+  std::optional<PictureSize> TakeClipboard() override { return Take(); }
+};
+
+TEST(MapViewTest, ANewPictureSetsTheMapSizeByTheFitRuleTheSameEachTime) {
+  const std::tuple<PictureSize, PictureSize, const char*, int, int> cases[] = {  // surface, image; texts, size
+      {{320, 320}, {320, 320}, "&H14&H14", 320, 320},     {{320, 320}, {384, 320}, "&H18&H14", 384, 320},
+      {{320, 320}, {640, 480}, "&H28&H1E", 640, 480},     {{320, 320}, {100, 100}, "&H7&H7", 112, 112},
+      {{320, 320}, {1024, 1024}, "&H3F&H3F", 1008, 1008}, {{320, 320}, {12, 12}, "&H14&H14", 320, 320},
+      {{320, 320}, {13, 13}, "&H1&H1", 16, 16},           {{320, 320}, {640, 12}, "&H28&H14", 640, 320},
+      {{640, 480}, {320, 320}, "&H14&H14", 320, 320},     {{320, 320}, {8192, 8192}, "&H1F6&H1F6", 8032, 8032}};
+  for (const auto& [surface, image, texts, width, height] : cases) {
+    SCOPED_TRACE(std::to_string(image.width) + "x" + std::to_string(image.height));
+    Form8 form = TwentyByTwenty();
+    form.Picture2.Width = surface.width;
+    form.Picture2.Height = surface.height;
+    for (int time = 1; time <= 2; ++time) {
+      ScriptedDialogs dialogs;
+      dialogs.openFileAnswers.push_back("map.bmp");
+      ScriptedPictures pictures;
+      pictures.next = image;
+      LoadMapImageFile(form, dialogs, pictures);
+      EXPECT_EQ(form.Text1.text + form.Text2.text, texts);
+      EXPECT_EQ(std::pair(form.Picture2.Width, form.Picture2.Height), std::pair(width, height));
+      EXPECT_EQ(form.Picture2.picture, MapPicture::Brought);
+      EXPECT_EQ(form.Picture2.pictureNumber, time);
+    }
+  }
 }
 
 }  // namespace

@@ -1,11 +1,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "editors/Form9.h"
+#include "editors/NameEditors.h"
 #include "rom/GameProfile.h"
+#include "rom/HexField.h"
 #include "shell/OpenRom.h"
+#include "shell/ScriptForms.h"
 #include "shell/Session.h"
 #include "shell/ToolsMenu.h"
-#include "shell/modLinedTextBox.h"
+#include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
 #include "support/MainSession.h"
 
@@ -31,8 +35,8 @@ std::string OpenState(const Form1& f) {
   return line;
 }
 
-// One session opens each game in turn, then cancels the dialog. FireRed and LeafGreen keep the
-// grou of the game before, which nothing of theirs reads.
+// One session opens each game in turn. FireRed and LeafGreen keep the grou of the game before,
+// which nothing of theirs reads.
 TEST(OpenRomTest, AKnownGameSetsTheWindowUpForItsFamily) {
   const char* states[] = {
       "AXVE Loaded rs &H1F716C &H38EE50 [&H38D880] Command6+ frlgl- Combo3+ Combo4- Command2+ Command9+ Command10+",
@@ -47,23 +51,12 @@ TEST(OpenRomTest, AKnownGameSetsTheWindowUpForItsFamily) {
     s.Open(fixture.path());
     const Form1& f = s.form;
     EXPECT_EQ(OpenState(f), state);
-    EXPECT_EQ(f.hdtxt.caption, f.headtxt);
-    EXPECT_EQ(s.dialogs.fileDialogs.back().title + " " + s.dialogs.fileDialogs.back().filter,
-              "Open Pokemon Advance rom|*.gba");
-    EXPECT_TRUE(s.rom.IsOpen());
-    EXPECT_EQ(s.rom.romPath(), fixture.path());
     ASSERT_EQ(f.Combo1.rows.size(), 412u);  // the names at the game's own offset in the fixture
     EXPECT_EQ(f.Combo1.rows[0], "000 - " + FixtureSpeciesName(0));
-    EXPECT_EQ(f.Combo1.rows[26], "01A - " + FixtureSpeciesName(26));
     EXPECT_EQ(f.Combo1.rows[411], "19B - " + FixtureSpeciesName(411));
     EXPECT_EQ(f.Combo1.selected, 0);
-    for (const TextBox* word : {&f.Text1, &f.Text2, &f.hoobla, &f.hoobla2}) EXPECT_EQ(word->text, "&H0");
     s.rom.Close();  // before the fixture goes: Windows deletes no file that is open
   }
-  s.Open("");  // the person cancels: no file and no names, and the rest as it was
-  EXPECT_FALSE(s.rom.IsOpen());
-  EXPECT_THAT(s.form.Combo1.rows, IsEmpty());
-  EXPECT_EQ(OpenState(s.form), states[4]);
   EXPECT_THAT(s.dialogs.messages, IsEmpty());
 }
 
@@ -71,29 +64,27 @@ TEST(OpenRomTest, NamesAreCutAtTheirEndByteOrLoseTheirLastCharacter) {
   FixtureRom fixture = EventFixtureRom("AXVE");
   const std::uint32_t table = test::SpeciesTableOffset("AXVE");
   fixture.PutName(table + 1 * 11, "Ninelettr", 9).PutBytes(table + 1 * 11 + 9, {0xFF, 0xBB});
-  fixture.PutName(table + 2 * 11, "Elevenchars", 11);    // no end byte in the field
-  fixture.PutBytes(table + 3 * 11, {0xFF, 0xBB, 0xBC});  // an empty name
+  fixture.PutName(table + 2 * 11, "Elevenchars", 11);  // no end byte in the field
   test::MainSession s;
   s.Open(fixture.path());
-  EXPECT_THAT(std::vector(s.form.Combo1.rows.begin() + 1, s.form.Combo1.rows.begin() + 5),
-              ElementsAre("001 - Ninelettr", "002 - Elevenchar", "003 - ", "004 - " + FixtureSpeciesName(4)));
+  EXPECT_THAT(std::vector(s.form.Combo1.rows.begin() + 1, s.form.Combo1.rows.begin() + 3),
+              ElementsAre("001 - Ninelettr", "002 - Elevenchar"));
+  EXPECT_EQ(s.form.Combo1.rows[26], "01A - " + FixtureSpeciesName(26));
 }
 
 // After Ruby, a file of no known game, then Ruby again: that enables all but Command6.
 TEST(OpenRomTest, AnUnknownGameHidesTheMainWindowAndAsksForItsTables) {
-  for (const char* code : {"axve", "Axve", "AXV", "AXVEE", "BPEJ", "", "ZZZZ", " AXVE"}) {
+  for (const char* code : {"axve", "AXV", "AXVEE", "BPEJ", "", " AXVE"}) {
     EXPECT_FALSE(FindGameProfile(code).has_value()) << '"' << code << '"';  // the exact code only
   }
   FixtureRom ruby = EventFixtureRom("AXVE");
-  FixtureRom emerald = FixtureRom::Emerald(), lowerCase("axve"), unknown("ZZZZ"), tooShort = FixtureRom::TooShort();
+  FixtureRom emerald = FixtureRom::Emerald(), tooShort = FixtureRom::TooShort();
   const struct {
     std::string path;
     std::string code;
     std::vector<std::string> messages;
   } rows[] = {
       {emerald.path(), "BPEJ", {"Unsupported ROM"}},
-      {lowerCase.path(), "axve", {"Unsupported ROM"}},
-      {unknown.path(), "ZZZZ", {"Unsupported ROM"}},
       {tooShort.path(), "",
        {"\"" + tooShort.path() + "\" is too short to be a ROM: it ends before the game code of its header.",
         "Unsupported ROM"}},
@@ -111,9 +102,24 @@ TEST(OpenRomTest, AnUnknownGameHidesTheMainWindowAndAsksForItsTables) {
     EXPECT_THAT(s.dialogs.windowEvents, ElementsAre(Window{WindowName::Form1, false}, Window{WindowName::Form9, true}));
     EXPECT_THAT(s.form.Combo1.rows, IsEmpty());
     EXPECT_EQ(OpenState(s.form), row.code + rubyState + "x Combo4- Command2+ Command9+x Command10+x");
-    EXPECT_EQ(s.form.hdtxt.caption, row.code);
     s.Open(ruby.path());
     EXPECT_EQ(OpenState(s.form), "AXVE" + rubyState + " Combo4- Command2+ Command9+ Command10+");
+  }
+}
+
+// Continue keeps both texts of "Unsupported ROM" as typed (their use is what parses them);
+// Quit keeps nothing. Both bring the main window back.
+TEST(OpenRomTest, TheUnsupportedRomDialogKeepsBothTextsOnContinueAndNothingOnQuit) {
+  for (const bool keep : {true, false}) {
+    Form1 main;
+    Form9 form;
+    test::ScriptedDialogs dialogs;
+    form.Text1.text = "&H245EE0";
+    form.Text2.text = "not a number";
+    keep ? PressContinue(form, main, dialogs) : PressQuit(form, dialogs);
+    EXPECT_EQ(main.Label20, keep ? "&H245EE0" : "&H1F716C");
+    EXPECT_EQ(main.itemRecords, keep ? "not a number" : "");
+    EXPECT_THAT(dialogs.windowEvents, ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
   }
 }
 
@@ -138,109 +144,129 @@ TEST(ToolsMenuTest, EachEntryOpensItsWindowOnceItsGuardLetsIt) {
     EXPECT_THAT(run(entry, true).windowEvents, ElementsAre(Window{window, true}));
   }
   const test::ScriptedDialogs asked = run(MenuEntry::mnuwbs, true, MessageAnswer::Yes);
-  ASSERT_EQ(asked.messages.size(), 1u);
-  EXPECT_EQ(asked.messages[0].text, "You wan't a Message in your event script?");
-  EXPECT_EQ(asked.messages[0].title, "Ok.");
+  EXPECT_EQ(asked.messages.at(0).title, "Ok.");
   EXPECT_EQ(asked.messages[0].buttons, MessageButtons::YesNo);
   EXPECT_THAT(asked.windowEvents, ElementsAre(Window{WindowName::Form4, true}));
-  // The starters and Kindlewick need no ROM; Kindlewick fails to start in silence.
+  // The starters need no ROM.
   EXPECT_THAT(run(MenuEntry::mnustart, false).windowEvents, ElementsAre(Window{WindowName::Form2, true}));
-  const test::ScriptedDialogs started = run(MenuEntry::mnufrst, false);
-  EXPECT_THAT(started.programsStarted, ElementsAre("Kindlewick"));
-  EXPECT_THAT(started.messages, IsEmpty());
-  EXPECT_THAT(started.windowEvents, IsEmpty());
 }
 
-// The classic desktop scheme: face, window text, highlight, shadow.
-constexpr GutterSystemColors kColors{{212, 208, 200}, {0, 0, 0}, {10, 36, 106}, {128, 128, 128}};
+// A whole session with no windows, for the tools that the menu opens.
+struct Opened {
+  Session session;
+  test::ScriptedDialogs dialogs;
+  void Open(const std::string& path) {
+    dialogs.openFileAnswers.push_back(path);
+    OpenRom(session.form1, session.rom, dialogs);
+  }
+  std::string Item(int row) { return RequireForm5Loaded(session).at(static_cast<std::size_t>(row)); }
+};
 
-// A box 104 pixels high with a frame of 2, lines of 10 pixels, and four digits 24 pixels
-// wide: TrayWidth 44, rows from x = 2 to 40, the shadow line at x = 43.
-GutterInput Box(int firstLine = 1, int lineCount = 1, int selFirst = 1, int selLast = 1) {
-  return {.numDigits = 4, .digitsWidth = 24, .boxHeight = 104, .edge = 2, .lineHeight = 10, .firstLine = firstLine,
-          .lineCount = lineCount, .selFirst = selFirst, .selLast = selLast, .focus = true, .colors = kColors};
+TEST(ScriptFormsTest, TheItemListIsReadFromTheRomThatIsOpenAndOnlyWhenItIsNeeded) {
+  constexpr std::size_t kSapphireItems = 0x3C55BC, kFireRedItems = 0x3DB028;
+  FixtureRom sapphire = FixtureRom::Sapphire();
+  sapphire.PutName(kSapphireItems, "Ball", 14)
+      .PutName(kSapphireItems + 44, "Potion", 14)
+      .PutName(kSapphireItems + 255 * 44, "Berry", 14)
+      .PutName(kSapphireItems + 346 * 44, "Abcdefghijklmn", 14);  // fills its field: loses its last letter
+  FixtureRom fireRed = FixtureRom::FireRed();
+  fireRed.PutName(kFireRedItems + 44, "Elixir", 14);
+
+  Opened s;
+  s.Open(sapphire.path());
+  const std::vector<std::string>& rows = RequireForm5Loaded(s.session);
+  ASSERT_EQ(rows.size(), 347u);
+  EXPECT_EQ(rows[0], "000 - Ball");
+  EXPECT_EQ(rows[1], "001 - Potion");
+  EXPECT_EQ(rows[255], "0FF - Berry");
+  EXPECT_EQ(rows[346], "15A - Abcdefghijklm");
+  EXPECT_EQ(s.session.form5.Label7.caption, "&H3C55BC");
+
+  s.Open(fireRed.path());
+  EXPECT_EQ(s.Item(1), "001 - Elixir");
+  EXPECT_EQ(s.session.form1.itemRecords, "&H3DB028");
+  EXPECT_EQ(s.session.form5.Combo1.rows, s.session.form1.Combo1.rows);
+
+  s.Open("");  // cancelled: no ROM open, no list
+  EXPECT_THAT(RequireForm5Loaded(s.session), IsEmpty());
+  EXPECT_THAT(s.dialogs.messages, IsEmpty());
+  FixtureRom emerald = FixtureRom::Emerald();  // a game with no item offset: an empty list, no message
+  Opened unknown;
+  unknown.Open(emerald.path());
+  LoadForm5(unknown.session);
+  EXPECT_THAT(unknown.session.form5.Combo2.rows, IsEmpty());
+  EXPECT_THAT(unknown.dialogs.MessageTexts(), ElementsAre("Unsupported ROM"));
 }
 
-TEST(modLinedTextBoxTest, AnEmptyBoxShowsLineOneTintedAndFramedInTheColoursOfTheFocus) {
-  GutterInput in = Box();
-  const GutterPaint paint = PlanGutterPaint(in);
-  EXPECT_EQ(paint.trayWidth, 44);
-  EXPECT_EQ(paint.height, 100);
-  EXPECT_THAT(paint.rows, ElementsAre(GutterRow{1, {2, 1, 41, 11}, "0001", true}));
-  EXPECT_EQ(paint.frame, (PixelRect{2, 1, 41, 11}));
-  EXPECT_EQ(paint.line, (VerticalLine{43, 0, 100}));
-  EXPECT_EQ(paint.frameColor, kColors.highlight);
-  EXPECT_EQ(paint.tint, (Rgb{133, 146, 181}));  // the highlight half and half with white
-  in.focus = false;
-  EXPECT_EQ(PlanGutterPaint(in).tint, (Rgb{223, 220, 214}));  // the face three parts to one of white
-  EXPECT_EQ(PlanGutterPaint(in).frameColor, kColors.buttonShadow);
-  in.edge = 0;  // a box with no frame has no shadow line
-  EXPECT_EQ(PlanGutterPaint(in).line, std::nullopt);
-  EXPECT_EQ(PlanGutterPaint(in).height, 104);
-}
-
-TEST(modLinedTextBoxTest, TheSelectionIsTintedAndFramedOpenWhereItLeavesTheView) {
-  // Lines 20 to 30 are in view (10 lines fit in 104 pixels, and one more is begun).
-  const struct {
-    int selFirst, selLast;
-    std::vector<int> tinted;
-    std::optional<PixelRect> frame;
-  } cases[] = {
-      {25, 25, {25}, PixelRect{2, 51, 41, 61}},                                            // the caret's line alone
-      {3, 19, {}, std::nullopt}, {31, 50, {}, std::nullopt},                               // wholly above or below
-      {10, 22, {20, 21, 22}, PixelRect{2, -100, 41, 31}},                                  // from above: no top side
-      {28, 40, {28, 29, 30}, PixelRect{2, 81, 41, 204}},                                   // on below: no bottom side
-      {5, 90, {20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30}, PixelRect{2, -100, 41, 204}},  // across: neither side
-      {20, 30, {20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30}, PixelRect{2, 1, 41, 111}},    // exactly the view
-      {19, 20, {20}, PixelRect{2, -100, 41, 11}}, {30, 31, {30}, PixelRect{2, 101, 41, 204}},  // one line in or out
+// On a fixture of 0xFF with no names, through the menu. An unknown game first passes the
+// "Unsupported ROM" dialog with the two offsets typed.
+TEST(NameEditorMenuTest, TheTwoAnswersWriteTheEncodedNameAndNothingElse) {
+  using Answer = std::optional<std::string>;
+  struct Case {
+    const char* code;
+    MenuEntry entry;
+    Answer number, name;
+    std::vector<test::ByteRange> changes;
+    std::string written;  // the bytes of the changed range
+    std::string row;      // the entry's row of Combo1 after a Pokemon rename, or a cancel
+    std::string failure;  // part of the sentence that ends the action
+    std::array<const char*, 2> typedInForm9{};
   };
-  for (const auto& c : cases) {
-    const GutterPaint paint = PlanGutterPaint(Box(20, 100, c.selFirst, c.selLast));
-    std::vector<int> tinted;
-    for (const GutterRow& row : paint.rows) {
-      if (row.tinted) tinted.push_back(row.line);
+  const Case cases[] = {
+      {"AXVE", MenuEntry::mnuedipmon, "&H19", "PIKA", {{0x1F727F, 11}}, "CA C3 C5 BB 00 00 00 00 00 00 00",
+       "019 - PIKA      "},
+      {"AXVE", MenuEntry::mnuedipmon, "&H19", "AB[PK]CDEFGHIJ", {{0x1F727F, 8}}, "BB BC 53 BD BE BF C0 C1",
+       "019 - ABPKCDEFG"},
+      {"BPRE", MenuEntry::mnuedipmon, "", "", {{0x245EE0, 11}}, "00 00 00 00 00 00 00 00 00 00 00",
+       "000 - " + std::string(10, ' ')},
+      {"AXVE", MenuEntry::mnuedipmon, std::nullopt, "PIKA", {}, "", "000 - "},
+      {"AXVE", MenuEntry::mnuedipmon, "&H19", std::nullopt, {}, "", "019 - "},
+      {"BPEJ", MenuEntry::mnuedipmon, "&H19", "PIKA", {{0x245FF3, 11}}, "CA C3 C5 BB 00 00 00 00 00 00 00",
+       "019 - PIKA      ", "", {"&H245EE0", "&H000000"}},
+      {"AXPE", MenuEntry::mnuediten, "&H2", "Abcdefghijklmn", {{0x3C5614, 14}},
+       "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
+      {"BPGE", MenuEntry::mnuediten, "2", "Abcdefghijklmno", {{0x3DAEBC, 14}},
+       "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
+      {"BPRE", MenuEntry::mnuediten, "&H2", "ééééééééééééééé", {{0x3DB080, 14}},  // cut in characters, not in bytes
+       "1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B"},
+      {"BPEJ", MenuEntry::mnuediten, "&H2", "A", {}, "", "", "Item records offset: \"&H24SEE0\" is not",
+       {"&H245EE0", "&H24SEE0"}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(std::string(c.code) + " " + c.number.value_or("(cancel)") + " " + c.name.value_or("(cancel)"));
+    test::FixtureRom fixture(c.code);
+    Opened s;
+    s.Open(fixture.path());
+    if (c.typedInForm9[0] != nullptr) {
+      s.session.form9.Text1.text = c.typedInForm9[0];
+      s.session.form9.Text2.text = c.typedInForm9[1];
+      PressContinue(s.session.form9, s.session.form1, s.dialogs);
     }
-    EXPECT_EQ(paint.lastLine, 30);
-    EXPECT_EQ(tinted, c.tinted) << c.selFirst << " to " << c.selLast;
-    EXPECT_EQ(paint.frame, c.frame) << c.selFirst << " to " << c.selLast;
+    s.dialogs.inputAnswers = {c.number, c.name};
+    const test::ByteOracle oracle(fixture.path());
+    const std::string failure = test::FailureOf([&] { RunMenuEntry(c.entry, s.session, s.dialogs); });
+
+    EXPECT_EQ(oracle.Changes(), c.changes);
+    const Bytes now = oracle.Now();
+    const test::ByteRange r = c.changes.empty() ? test::ByteRange{0, 0} : c.changes[0];
+    EXPECT_EQ(test::ToHex(Bytes(now.begin() + long(r.offset), now.begin() + long(r.offset + r.length))), c.written);
+    EXPECT_EQ(failure.empty(), c.failure.empty()) << failure;
+    EXPECT_THAT(failure, ::testing::HasSubstr(c.failure));
+    EXPECT_EQ(s.dialogs.inputs.size(), c.number ? 2u : 1u);
+    EXPECT_EQ(s.dialogs.inputs[0].prompt, c.entry == MenuEntry::mnuediten ? kItemEntryPrompt : kPokemonEntryPrompt);
+    if (c.row.empty()) continue;
+    ASSERT_EQ(s.session.form1.Combo1.rows.size(), 412u);  // a cancel keeps the list of the open
+    EXPECT_EQ(s.session.form1.Combo1.rows[std::size_t(ParseLenient(c.number.value_or("")))], c.row);
+    EXPECT_EQ(s.session.form1.Combo1.selected, 0);
   }
-  GutterInput in = Box(20, 22, 21, 21);  // the rows follow a text that begins 4 pixels down, to its last line
-  in.firstLineTop = 4;
-  const GutterPaint paint = PlanGutterPaint(in);
-  EXPECT_EQ(paint.lastLine, 22);
-  EXPECT_THAT(paint.rows, ElementsAre(GutterRow{20, {2, 5, 41, 15}, "0020", false},
-                                      GutterRow{21, {2, 15, 41, 25}, "0021", true},
-                                      GutterRow{22, {2, 25, 41, 35}, "0022", false}));
-  EXPECT_EQ(paint.frame, (PixelRect{2, 15, 41, 25}));
 }
 
-TEST(modLinedTextBoxTest, NumbersArePaddedAndCutAndBlendsRoundHalvesUp) {
-  const struct {
-    int numDigits, firstLine;
-    std::vector<std::string> numbers;
-  } cases[] = {
-      {4, 9998, {"9998", "9999", "1000", "1000"}}, {4, 12345, {"1234", "1234", "1234", "1234"}},
-      {0, 7, {"0007", "0008", "0009", "0010"}},  // 0 behaves as 4
-      {6, 99, {"000099", "000100", "000101", "000102"}}, {2, 99, {"99", "10", "10", "10"}},
-  };
-  for (const auto& c : cases) {
-    GutterInput in = Box(c.firstLine, c.firstLine + 50);
-    in.numDigits = c.numDigits;
-    in.boxHeight = 34;  // three lines fit, a fourth is begun
-    std::vector<std::string> numbers;
-    for (const GutterRow& row : PlanGutterPaint(in).rows) numbers.push_back(row.number);
-    EXPECT_EQ(numbers, c.numbers) << c.numDigits << " digits from line " << c.firstLine;
-  }
-  const struct {
-    Rgb color1, color2;
-    int percent;
-    Rgb blend;
-  } blends[] = {
-      {{0, 0, 0}, kWhite, 50, {128, 128, 128}}, {{0, 0, 0}, kWhite, 75, {64, 64, 64}},  // 127.5 and 63.75: halves go up
-      {{1, 2, 3}, {2, 4, 6}, 50, {2, 3, 5}}, {{200, 100, 0}, {100, 0, 201}, 75, {175, 75, 50}},
-      {{9, 8, 7}, {1, 2, 3}, 100, {9, 8, 7}}, {{9, 8, 7}, {1, 2, 3}, 0, {1, 2, 3}},
-  };
-  for (const auto& c : blends) EXPECT_EQ(BlendColors(c.color1, c.color2, c.percent), c.blend) << c.percent;
+TEST(NameEditorMenuTest, APlaceBeyondTheLastOffsetIsRefusedOnADeviceToo) {
+  RomImage rom;
+  rom.Open(test::EndlessDevice());  // every place lies inside it
+  EXPECT_EQ(test::FailureOf([&] { EditPokemonName(rom, "&H10", 0x1745D174, "A"); }),  // &H10 + 11 * entry wraps to 12
+            "Pokemon: \"&H1745D174\": its name in the table at &H10, 11 bytes from 4294967308, would lie beyond "
+            "&H7FFFFFFF, the last offset of a ROM. Nothing was written.");
 }
 
 }  // namespace

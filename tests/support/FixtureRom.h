@@ -9,7 +9,6 @@
 #include <string>
 #include <string_view>
 
-
 #include "rom/Bytes.h"
 #include "rom/FilePath.h"
 
@@ -103,7 +102,6 @@ class FixtureRom {
   static FixtureRom Ruby() { return FixtureRom("AXVE"); }
   static FixtureRom Sapphire() { return FixtureRom("AXPE"); }
   static FixtureRom FireRed() { return FixtureRom("BPRE"); }
-  static FixtureRom LeafGreen() { return FixtureRom("BPGE"); }
   static FixtureRom Emerald() { return FixtureRom("BPEJ"); }
   // A file that ends before the header's game code is complete.
   static FixtureRom TooShort() { return FixtureRom("", 0xAE); }

@@ -2,7 +2,6 @@
 
 #include <map>
 
-#include "rom/HexField.h"
 #include "support/FixtureRom.h"
 #include "text/Braille2Text.h"
 #include "text/Table2Text.h"
@@ -12,13 +11,7 @@ namespace tessarine {
 namespace {
 
 using test::FromHex;
-
-// Bytes as in a hex dump, "BB BC FF", so that a failing comparison reads like one.
-std::string ToHex(const Bytes& bytes) {
-  std::string hex;
-  for (const std::uint8_t byte : bytes) hex += (hex.empty() ? "" : " ") + HexDigits(byte, 2);
-  return hex;
-}
+using test::ToHex;
 
 std::string Decode(std::string_view hex, bool japanese = false) { return DecodeGameText(FromHex(hex), japanese); }
 
@@ -63,8 +56,6 @@ TEST(GameTextDecodeTest, DecodesRunsOfBytes) {
       {"80 7C 2C A0 42 43 92 93 47", true, " &H2C_djizuDJIDUbe"},  // the two halves are no shift of each other
   };
   for (const auto& c : cases) EXPECT_EQ(Decode(c.bytes, c.japanese), c.text) << c.bytes;
-  EXPECT_EQ(Decode("FC"), "\\c");  // the flag dies with the call
-  EXPECT_EQ(Decode("BB"), "A");
 }
 
 TEST(GameTextDecodeTest, CutsDecodedNames) {
@@ -76,8 +67,6 @@ TEST(GameTextDecodeTest, CutsDecodedNames) {
       {"BB FC FF", "A\\c&HF"}, {"", ""},
   };
   for (const auto& [bytes, name] : cases) EXPECT_EQ(CutDecodedName(Decode(bytes)), name) << bytes;
-  EXPECT_EQ(CutDecodedName("AB\xE2\x82"), "AB\xE2");  // any text: a byte that is no UTF-8 is one character
-  EXPECT_EQ(CutDecodedName("\xF0\x9F\x98\x80"), "");
 }
 
 // The three encoders side by side. Typed text crosses as UTF-8; the encoders count characters.
@@ -92,16 +81,14 @@ TEST(TextEncodeTest, EncodesTypedText) {
       {G, " ", "00"}, {G, "[PK]", "53"}, {G, "PK", "CA C5"}, {G, "[pk]", "00 E4 DF 00"},  // forms are case-sensitive
       {G, "[Lv]5", "34 A6"}, {G, "[L]v", "7B EA"}, {G, "[Ke]", "56"}, {G, "[K]e", "59 D9"}, {G, "K&", "C5 2D"},
       {G, "A&B", "BB 2D BC"}, {G, "[u][U][d][D][l][L]", "F7 79 F8 7A F9 7B"}, {G, "[\"]\"[']'", "B1 B2 B3 B4"},
-      {G, "\\hFD\\h01", "FD 01"}, {G, "\\v\\h01", "FD 01"}, {G, "\\hfc\\hFc", "FC FC"},
+      {G, "\\hfc\\hFc", "FC FC"},
       {G, "\\h0", "00 DC A1"}, {G, "\\hGG", "00 DC C1 C1"}, {G, "\\HFF", "00 C2 C0 C0"},  // "\h" and two digits only
       {G, "&H0A", "2D C2 A1 BB"}, {G, "[U", "00 CF"}, {G, "\\\\n", "00 FE"},  // no form cut short by the end
-      {G, "#$*;<>@[\\]^_`{|}~\r\n\t", "00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00"},
       {G, "POK\xC3\xA9 BALL", "CA C9 C5 1B 00 BC BB C6 C6"}, {G, "ÀœŒ·ßü¿ª°", "01 24 10 AF 15 F6 51 29 28"},
       // A combining accent, a character beyond the Latin range, and each byte that begins no UTF-8
-      // sequence (Latin-1, cut short, overlong, a surrogate, past U+10FFFF) are one unknown character.
+      // sequence (Latin-1, cut short, overlong, a surrogate) are one unknown character.
       {G, "e\xCC\x81", "D9 00"}, {G, "\xF0\x9F\x98\x80[U]", "00 79"}, {G, "\xC3", "00"}, {G, "\xE9t\xE9", "00 E8 00"},
       {G, "\xE2\x82" "A", "00 00 BB"}, {G, "\xC0\xAF", "00 00"}, {G, "\xED\xA0\x80", "00 00 00"},
-      {G, "\xF4\x90\x80\x80", "00 00 00 00"}, {G, "[P\xFFK]", "00 CA 00 C5 00"},
       {G, std::string_view("A\0B", 3), "BB 00 BC"},
       {G, "[PK][MN][PO][Ke][BL][OC][K]", "53 54 55 56 57 58 59"},
       {M, "", ""}, {M, "[N]", "FE"}, {M, "A[N]B", "BB FE BC"}, {M, "[N", "00 C8"}, {M, "[End]", "FF"},
@@ -110,11 +97,10 @@ TEST(TextEncodeTest, EncodesTypedText) {
       {M, "\\l\\p\\c", "FA FB FC"}, {M, "\\hFF\\h0", "FF 00 DC A1"}, {M, "\\HFF", "00 C2 C0 C0"},
       {M, "\\x", "00 EC"}, {M, "[Lv]", "00 C6 EA 00"}, {M, "[PO]", "00 CA C9 00"}, {M, "[Ke]", "00 C5 D9 00"},
       {M, "[K][U][.]", "00 C5 00 00 CF 00 00 AD 00"}, {M, "A\r\nB", "BB 00 00 BC"},  // a typed line break is no token
-      {M, "POK\xC3\xA9", "CA C9 C5 1B"}, {M, "\xC3[N]", "00 FE"},
       {B, "", ""}, {B, "HI", "0D 06"}, {B, "Hi", "0D 00"}, {B, "A.B", "01 2C 05"}, {B, "A B'", "01 00 05 04"},
       {B, "HELLO[End]", "0D 09 15 15 19 FF"}, {B, "[END]", "00 09 1B 0B 00"}, {B, "End", "09 00 00"}, {B, ",", "00"},
       {B, "\r\n", "FE"}, {B, "\r\n\r\n", "FE FE"}, {B, "\r", "00"}, {B, "A\nB\n\r", "01 00 05 00 00"},  // CR LF only
-      {B, "\\h2E\\h02", "2E 02"}, {B, "\\hZZ", "00 00 39 39"}, {B, "\\h0", "00 00 00"}, {B, "\xC3\xA9\xFF", "00 00"},
+      {B, "\\hZZ", "00 00 39 39"}, {B, "\xC3\xA9\xFF", "00 00"},
   };
   for (const auto& c : cases) {
     const Bytes bytes = c.codec == G   ? EncodeGameText(c.text)
@@ -122,11 +108,6 @@ TEST(TextEncodeTest, EncodesTypedText) {
                                        : EncodeBrailleText(c.text);
     EXPECT_EQ(ToHex(bytes), c.bytes) << "GMB"[c.codec] << ": " << c.text;
   }
-  const std::pair<std::string_view, bool> hex[] = {
-      {"", true}, {"09", true}, {"AF", true}, {"af", true}, {"0123456789abcdefABCDEF", true},
-      {"G", false}, {"0x", false}, {" 1", false}, {"g0", false}, {"\xC3\xA9", false},
-  };
-  for (const auto& [text, isHex] : hex) EXPECT_EQ(IsHexText(text), isHex) << text;
 }
 
 // The braille alphabet both ways: the letters, "." and the blank are the cells that read as one

@@ -1,27 +1,160 @@
+#include "scripts/ListScript.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <functional>
 
 #include "rom/HexField.h"
 #include "scripts/Form5.h"
-#include "scripts/ListScript.h"
 #include "scripts/WildBattleForms.h"
 #include "support/ByteOracle.h"
 #include "support/Failures.h"
 #include "support/FixtureRom.h"
 #include "support/ScriptedDialogs.h"
-#include "support/FixtureRom.h"
 
 namespace tessarine {
 namespace {
 
 using test::ByteOracle;
 using test::ByteRange;
+using test::FailureOf;
+using test::FixtureRom;
 using test::ScriptedDialogs;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+
+std::string Repeat(std::string_view text, std::size_t times) {
+  std::string out;
+  for (std::size_t i = 0; i < times; ++i) out += text;
+  return out;
+}
+
+// The six header lines of a braille record, with these values, and the rule below them.
+std::string Header(std::array<const char*, 6> values) {
+  const char* labels[] = {"Postion.Left: ", "Postion.Top: ", "Msgbox.Left: ", "Msgbox.Top: ", "Braille.Left: ",
+                          "Braille.Top: "};
+  std::string text;
+  for (std::size_t i = 0; i < values.size(); ++i) text += labels[i] + std::string(values[i]) + "\r\n";
+  return text + "-------Braille-------\r\n";
+}
+const std::string kZeroHeader = Header({"0", "0", "0", "0", "0", "0"});
+
+// Each case in a file of its own of 0x100 bytes of 0xFF, so that the last ones meet its end.
+TEST(ListScriptTest, ListsEachCommandAndBrailleCellByItsRules) {
+  const std::string header56789A = Header({"5", "6", "7", "8", "9", "A"});
+  struct Case {
+    std::string bytes;
+    std::string listing;
+    bool braille = false;
+    std::size_t at = 0;            // where the bytes go
+    const char* offset = nullptr;  // the text typed; else `at` in hexadecimal
+  };
+  const Case cases[] = {
+      {"6A 5A B6 19 00 05 00 00 30 A1 19 00 02",  // the wild battle script
+       "lock \r\nfaceplayer \r\nwildpkmnbattle: &H19 &H5 &H0\r\ncry  &H19\r\nend \r\n"},
+      {"0F 64 55 3C 08 02", "msgbox  &H83C5564\r\nend \r\n"},  // two blanks, the pointer, no blank behind
+      {"04 16 F3 15 08 02", "call &HF316\r\nend \r\n"},        // the low half only
+      {"05 16 00 15 08 02", "goto &H81516\r\nend \r\n"},       // a low half below &H1000 is not padded
+      {"78 00 10 16 08 02", "braille  &H8161000\r\nend \r\n"}, {"00 01 C6 02", "nop \r\nnop \r\nnop \r\nend \r\n"},
+      {"03 07 FF 02", "Byte: &H3 \r\nByte: &H7 \r\nByte: &HFF \r\nend \r\n"},  // each alone, and the scan goes on
+      {"06 02 02 02 02 02 5A 02", "if \r\nfaceplayer \r\nend \r\n"},            // 0x02 as an operand ends nothing
+      {"09 02 2B 00 08 69 02", "boxset &H2\r\ncheckflag &H800\r\njingle \r\nend \r\n"},
+      {"B6 19 00 05 8B 01 02", "wildpkmnbattle: &H19 &H8B05 &H1\r\nend \r\n"},  // word, word, byte
+      {"79 19 00 05 00 00 " + Repeat("00 ", 17) + "02",  // givepokemon takes the first of its 17 zeros
+       "givepokemon: &H19 &H5 &H0\r\n" + Repeat("nop \r\n", 16) + "end \r\n"},
+      {"02 02 02 02 02 02 01 FF", "end \r\n"},  // a braille record's header is commands like any others
+      {"05 06 07 08 09 0A 0D 09 15 15 19 FF", header56789A + "HELLO", true},
+      {"05 06 07 08 09 0A 01 02 01 FF", header56789A + "AEnd", true},  // 0x02 prints End and stops
+      {"00 00 00 00 00 00 08 FE 00 01 2D FF", kZeroHeader + "[&H8]\r\n A[&H2D]", true},
+      {"02 FF 02 FF 02 FF 01 FF", Header({"2", "FF", "2", "FF", "2", "FF"}) + "A", true},  // no stop in the header
+      // Script mode reads the longest number at the start of the text, or lists from 0; braille mode a strict one.
+      {"6A 02", "lock \r\nend \r\n", false, 0, "abc"}, {"5A 02", "faceplayer \r\nend \r\n", false, 0x10, "&H10zz"},
+      {"00 00 00 00 00 00 01 FF", kZeroHeader + "A", true, 0x20, " &H20 "},
+      // At the end of the file: a command or cell is listed while it starts at or before the end.
+      {"FF", "Byte: &HFF \r\nnop \r\n", false, 0xFF}, {"", "nop \r\n", false, 0, "&H7FFFFFFF"},
+      {"05", "goto &H00\r\n", false, 0xFF},  // bytes past the end are 0
+      {"0F 64 55", "msgbox  &H05564\r\n", false, 0xFD},
+      {"", kZeroHeader + " ", true, 0, "&H100"},
+      {"00 00 00 00 00 00 01 01", kZeroHeader + "AA" + std::string(7, ' '), true, 0xF8},
+  };
+  for (const Case& c : cases) {
+    FixtureRom fixture("AXPE", 0x100);
+    fixture.PutBytes(c.at, test::FromHex(c.bytes));
+    RomImage rom;
+    rom.Open(fixture.path());
+    ScriptedDialogs ui;
+    const std::string offset = c.offset ? c.offset : ToHexText(static_cast<std::int32_t>(c.at));
+    EXPECT_EQ(ListScript(rom, ui, offset, c.braille), c.listing) << c.bytes << " from " << offset;
+    EXPECT_THAT(ui.messages, IsEmpty()) << c.bytes;
+  }
+}
+
+// The press of Load: Text4 takes a whole listing, and keeps its text when the offset is refused.
+TEST(ListScriptTest, ThePressReplacesText4OnlyWithAWholeListing) {
+  FixtureRom fixture("AXPE", 0x100);
+  fixture.PutBytes(0x40, {0x6A, 0x02});
+  RomImage rom;
+  rom.Open(fixture.path());
+  Form1 form;
+  ScriptedDialogs ui;
+  const auto press = [&](const char* offset, bool braille) {
+    form.Text3.text = offset;
+    form.Check1.checked = braille;
+    form.Text4.text = "what was there";
+    ui.messages.clear();
+    return ListIntoText4(form, rom, ui);
+  };
+  EXPECT_TRUE(press("&H40", false));
+  EXPECT_EQ(form.Text4.text, "lock \r\nend \r\n");
+  const struct {
+    const char* text;
+    bool braille;
+    const char* failure;  // "": the person is told "Offset Bad"
+  } rows[] = {
+      {"&HF8000000", false, ""}, {"&HF8000000", true, ""},
+      {"&H20zz", true,
+       "Offset: \"&H20zz\" is not an offset. Type &H and up to 8 hexadecimal digits, or a whole number from "
+       "-2147483648 to 2147483647. Nothing was listed."},
+      // The refusal compares the text exactly; the same number written otherwise lies before the start.
+      {"&hF8000000", false, "Nothing was listed."},
+      {"-1", false,
+       "The offset &HFFFFFFFF lies before the start of the ROM, so nothing was read or written there. "
+       "Nothing was listed."},
+  };
+  for (const auto& [text, braille, failure] : rows) {
+    EXPECT_THAT(FailureOf([&] { EXPECT_FALSE(press(text, braille)); }), HasSubstr(failure)) << text;
+    EXPECT_EQ(form.Text4.text, "what was there");
+    EXPECT_EQ(ui.MessageTexts(), *failure ? std::vector<std::string>{} : std::vector<std::string>{"Offset Bad"});
+  }
+}
+
+// 10 bytes whose commands straddle any block edge of a power of two, repeated over 2.5 MiB after two
+// nops (so that the first edge of a MiB cuts a msgbox): a listing told along the way, from 0 to 1.
+// (The listing dialog's test shows a cancel stop it.)
+TEST(ListScriptTest, ALongListingIsTheSameAcrossBlocks) {
+  const std::string unitListing = "lock \r\nmsgbox  &H83C5564\r\ncry  &H19\r\n";
+  constexpr std::size_t kRepeats = 262144;
+  FixtureRom fixture = FixtureRom::Ruby();
+  fixture.PutBytes(0x100003, test::FromHex("00 00 " + Repeat("6A 0F 64 55 3C 08 30 A1 19 00 ", kRepeats) + "02"));
+  RomImage rom;
+  rom.Open(fixture.path());
+  ScriptedDialogs ui;
+  std::vector<double> told;
+  const std::optional<std::string> listing = ListScript(rom, ui, "&H100003", false, [&](double done) {
+    told.push_back(done);
+    return true;
+  });
+  ASSERT_TRUE(listing.has_value());
+  ASSERT_EQ(listing->size(), 12 + unitListing.size() * kRepeats + 6);  // and no diff of megabytes
+  EXPECT_EQ(*listing, "nop \r\nnop \r\n" + Repeat(unitListing, kRepeats) + "end \r\n");
+  ASSERT_GE(told.size(), 10u);  // told along the way, not only at the end
+  EXPECT_EQ(told.back(), 1.0);
+  EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+}
 
 constexpr std::size_t kS = 0x700000;  // script offset of the cases
 constexpr std::size_t kT = 0x7A0000;  // text offset
@@ -122,34 +255,25 @@ TEST(ScriptBuildersTest, AGivePokemonBlockOverlapsAsLaidOutAndEachPointerHoldsIt
   const std::string branch = "boxset &H4\r\nByte: &H6B \r\nend \r\n";
   EXPECT_EQ(b.List(kS), "jingle \r\nmsgbox  &H87A0\r\nboxset &H5\r\ncompare  &H800D &H0\r\nif \r\nByte: &H43 \r\n"
                         "compare  &H800D &H6\r\nif \r\nByte: &H19 \r\ncall &HD80\r\nend \r\n");
-  std::string nops;
-  for (int i = 0; i < 16; ++i) nops += "nop \r\n";
-  EXPECT_EQ(b.List(kS + 46), "givepokemon: &H176 &H5 &H0\r\n" + nops + "Byte: &H7D \r\nByte: &H76 \r\nnop \r\nnop \r\n"
-                             "msgbox  &H7000670F\r\nByte: &H8 \r\n" + branch);
   EXPECT_EQ(b.List(kS + 74), "msgbox  &H87067\r\n" + branch);  // where the first "if" leads
   EXPECT_EQ(b.List(kS + 93), "msgbox  &H87071\r\n" + branch);  // where the second leads
 }
 
-// One case of an insert that must write nothing: what is wrong, which form, what is said.
-struct Refusal {
-  const char* field;
-  std::function<void(Builder&)> set;
-  int form;
-  const char* says;
-};
-
+// Each case an insert that must write nothing: what is wrong, which form, what is said.
 TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNothing) {
-  const Refusal refusals[] = {
-      {"species", [](Builder& b) { b.form3.pkmntxt.text = "&H10000"; }, 3, "Pokemon: \"&H10000\" is not a word."},
+  const struct {
+    const char* field;
+    std::function<void(Builder&)> set;
+    int form;
+    const char* says;
+  } refusals[] = {
       {"species before offset", [](Builder& b) { b.form3.crytxt.text = "x"; b.form3.Text3.text = "?"; }, 3,
        "PKMN Cry: \"x\""},
       {"initial offset", [](Builder& b) { b.form3.Text3.text = "&H000000"; }, 3,
        "Offset: \"&H000000\" lies inside the cartridge header, &H0 to &HBF,"},
-      {"offset 0", [](Builder& b) { b.form4.Text3.text = "0"; }, 4, "Offset: \"0\" lies inside the cartridge header"},
       {"last header byte", [](Builder& b) { b.form5.Text3.text = "&HBF"; }, 5,
        "Offset To insert Script: \"&HBF\" lies inside"},
       {"negative", [](Builder& b) { b.form3.Text3.text = "&HF8000000"; }, 3, "lies before the start of the ROM"},
-      {"text in header", [](Builder& b) { b.form4.Text12.text = "&H0"; }, 4, "Text Offset: \"&H0\" lies inside"},
       {"text before script", [](Builder& b) { b.form5.Text12.text = "&H0"; b.form5.pkmntxt.text = "?"; }, 5,
        "Offset to insert new text: \"&H0\""},
       {"script past the end", [](Builder& b) { b.form3.Text3.text = "&HFFFFF4"; }, 3,
@@ -159,11 +283,11 @@ TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNoth
        "Text Offset: \"&HFFFFFF\": the message, 2 bytes"},
       {"question past the end", [](Builder& b) { b.form5.Text12.text = "&HFFFFFF"; }, 5, "the question, 2 bytes"},
   };
-  for (const Refusal& r : refusals) {
+  for (const auto& r : refusals) {
     Builder b;
     r.set(b);
     const ByteOracle oracle(b.fixture.path());
-    const std::string said = test::FailureOf([&] {
+    const std::string said = FailureOf([&] {
       if (r.form == 3) InsertWildBattle(b.form3, b.rom, b.dialogs);
       if (r.form == 4) InsertWildBattle(b.form4, b.rom, b.dialogs);
       if (r.form == 5) InsertGivePokemon(b.form5, b.rom, b.dialogs);
@@ -180,19 +304,12 @@ TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNoth
   EXPECT_EQ(b.dialogs.windowEvents.size(), 1u);
 }
 
-TEST(ScriptBuildersTest, WhatTheFileTakesTheInsertDoesNotRefuse) {
-  Builder b;
-  b.rom.Open(test::EndlessDevice());  // every write there is taken
-  InsertWildBattle(b.form3, b.rom, b.dialogs);
-  EXPECT_THAT(b.dialogs.MessageTexts(), ElementsAre("Inserted"));
-}
-
 TEST(ScriptBuildersTest, AMessageThatDoesNotFitIsRefusedAfterTheScriptAndSaysSo) {
   Builder b;
   b.form4.Text12.text = "&HFFFFFD";  // room for FF 00, not for "AB" and FF 00
   b.dialogs.inputAnswers = {"AB"};
   const ByteOracle oracle(b.fixture.path());
-  EXPECT_EQ(test::FailureOf([&] { InsertWildBattle(b.form4, b.rom, b.dialogs); }),
+  EXPECT_EQ(FailureOf([&] { InsertWildBattle(b.form4, b.rom, b.dialogs); }),
             "The wild battle script was written at &H700000. Its message was not written: Text Offset: "
             "\"&HFFFFFD\": the message, 4 bytes from &HFFFFFD, would run past the end of the ROM, which is "
             "&H1000000 bytes long.");

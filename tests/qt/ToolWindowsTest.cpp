@@ -1,0 +1,286 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFile>
+#include <QFrame>
+#include <QImage>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include "editors/NameEditors.h"
+#include "qt/QtDialogs.h"
+#include "qt/QtShell.h"
+#include "shell/OpenRom.h"
+#include "support/ByteOracle.h"
+#include "support/EventFixtures.h"
+#include "support/ScriptedDialogs.h"
+#include "support/WidgetDriver.h"
+
+namespace tessarine {
+namespace {
+
+using test::ByteOracle;
+using test::ByteRange;
+using test::Pick;
+using test::Type;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+constexpr std::size_t kS = 0x700000;
+constexpr std::size_t kT = 0x7A0000;
+
+// A Sapphire ROM with its species and two item names, for the builders.
+test::FixtureRom BuilderRom() {
+  test::FixtureRom rom = test::EventFixtureRom("AXPE");
+  rom.PutName(0x3C55BC + 44, "Potion", 14).PutName(0x3C55BC + 2 * 44, "Ether", 14);
+  return rom;
+}
+
+// The shell with a fixture ROM opened as the Open button does, and one tool window opened
+// from the Tools menu, driven through its widgets by name.
+class ToolWindowsTest : public ::testing::Test {
+ protected:
+  test::ScriptedDialogs dialogs;
+  QtShell shell{dialogs};
+  QWidget* window = nullptr;
+
+  bool Open(test::FixtureRom& rom, MenuEntry entry, WindowName name) {
+    dialogs.openFileAnswers.push_back(rom.path());
+    shell.Run([this, entry] {
+      OpenRom(shell.form1(), shell.rom(), shell.dialogs());
+      RunMenuEntry(entry, shell.session(), shell.dialogs());
+    });
+    window = shell.Window(name);
+    return window != nullptr && QTest::qWaitForWindowExposed(window);
+  }
+  template <typename W = QWidget>
+  W* Find(const char* name) {
+    W* widget = window->findChild<W*>(name);
+    EXPECT_NE(widget, nullptr) << name;
+    return widget;
+  }
+  void Click(const char* button) { QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton); }
+  QString Text(const char* field) { return Find<QLineEdit>(field)->text(); }
+  std::string At(const ByteOracle& oracle, std::size_t at, std::size_t count) {
+    const Bytes now = oracle.Now();
+    return test::ToHex(Bytes(now.begin() + static_cast<long>(at), now.begin() + static_cast<long>(at + count)));
+  }
+  // In a builder: species 0x19, level 5 and item 2, picked in the lists as a person does.
+  void PickBattle() {
+    Pick(Find<QComboBox>("Combo1"), 0x19);
+    Pick(Find<QComboBox>("Combo3"), 5);
+    EXPECT_EQ(Find<QComboBox>("Combo2")->itemText(2), "002 - Ether");
+    Pick(Find<QComboBox>("Combo2"), 2);
+  }
+};
+
+TEST_F(ToolWindowsTest, Form3WritesTheBattlePickedInItsListsOnEnter) {
+  test::FixtureRom fixture = BuilderRom();
+  dialogs.messageAnswers = {MessageAnswer::No};  // no message in the script
+  ASSERT_TRUE(Open(fixture, MenuEntry::mnuwbs, WindowName::Form3));
+  PickBattle();
+  EXPECT_EQ(Text("crytxt"), "&H19");
+  Type(Find<QLineEdit>("Text3"), "&H700000");
+  const ByteOracle oracle(fixture.path());
+  QTest::keyClick(Find<QComboBox>("Combo3"), Qt::Key_Return);  // Enter in a list presses Insert
+
+  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 13}}));
+  EXPECT_EQ(At(oracle, kS, 13), "6A 5A B6 19 00 05 02 00 30 A1 19 00 02");
+  EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("You wan't a Message in your event script?", "Inserted"));
+  QTest::qWait(0);  // the closed form is dropped
+  EXPECT_EQ(shell.Window(WindowName::Form3), nullptr);
+}
+
+TEST_F(ToolWindowsTest, Form4WritesTheScriptAndThenTheMessageTypedIntoTheBox) {
+  test::FixtureRom fixture = BuilderRom();
+  dialogs.messageAnswers = {MessageAnswer::Yes};
+  dialogs.inputAnswers = {"AB"};
+  ASSERT_TRUE(Open(fixture, MenuEntry::mnuwbs, WindowName::Form4));
+  PickBattle();
+  Type(Find<QLineEdit>("pkmntxt"), "&H1A");  // typed over the list's number
+  Type(Find<QLineEdit>("Text3"), "&H700000");
+  Type(Find<QLineEdit>("Text12"), "&H7A0000");
+  const ByteOracle oracle(fixture.path());
+  Click("Command1");
+
+  EXPECT_EQ(At(oracle, kS, 20), "6A 5A 0F 00 00 7A 08 09 06 B6 1A 00 05 02 00 30 A1 19 00 02");
+  EXPECT_EQ(At(oracle, kT, 4), "BB BC FF 00");
+  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 20}, {kT, 2}, {kT + 3, 1}}));
+  EXPECT_EQ(dialogs.MessageTexts().back(), "Inserted");
+}
+
+TEST_F(ToolWindowsTest, Form5WritesTheBlockOnEnterAndClosesWithNoMessage) {
+  test::FixtureRom fixture = BuilderRom();
+  dialogs.inputAnswers = {"AB"};
+  ASSERT_TRUE(Open(fixture, MenuEntry::mnugps, WindowName::Form5));
+  PickBattle();
+  Type(Find<QLineEdit>("Text12"), "&H7A0000");
+  Type(Find<QLineEdit>("Text3"), "&H700000");
+  const ByteOracle oracle(fixture.path());
+  QTest::keyClick(Find<QLineEdit>("Text3"), Qt::Key_Return);
+
+  EXPECT_EQ(oracle.Changes(),
+            (std::vector<ByteRange>{{kS, 83}, {kS + 93, 9}, {kS + 103, 48}, {kT, 2}, {kT + 3, 1}}));
+  EXPECT_EQ(At(oracle, kS + 46, 6), "79 19 00 05 02 00");
+  EXPECT_EQ(At(oracle, kS + 2, 4), "00 00 7A 08");
+  EXPECT_THAT(dialogs.messages, IsEmpty());
+  QTest::qWait(0);
+  EXPECT_EQ(shell.Window(WindowName::Form5), nullptr);
+}
+
+TEST_F(ToolWindowsTest, Form2SavesWhatIsPickedAndDoneClosesWithoutWriting) {
+  test::FixtureRom fixture = test::EventFixtureRom("AXVE");
+  fixture.PutWord(0x3F76C4, 0x115).PutWord(0x3F76C6, 0x118).PutWord(0x3F76C8, 0x11B);
+  ASSERT_TRUE(Open(fixture, MenuEntry::mnustart, WindowName::Form2));
+  auto* ball1 = Find<QComboBox>("Combo1");
+  EXPECT_EQ(ball1->currentText().toStdString(), shell.form1().Combo1.rows[277]);
+
+  Pick(Find<QComboBox>("Combo2"), 0x19);
+  const ByteOracle oracle(fixture.path());
+  Click("Command1");
+  QTest::keyClick(ball1, Qt::Key_Return);  // Enter in a closed list presses Save again
+  Pick(ball1, 0);
+  Click("Command3");  // Reload: the stored row again
+  EXPECT_EQ(ball1->currentIndex(), 277);
+  Pick(ball1, 0);
+  Click("Command2");
+  QTest::qWait(0);
+  EXPECT_EQ(shell.Window(WindowName::Form2), nullptr);
+  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{0x3F76C6, 2}}));  // Save's only change; Done wrote none
+  EXPECT_EQ(oracle.Now()[0x3F76C6], 0x19);
+  EXPECT_EQ(dialogs.MessageTexts(), (std::vector<std::string>{"Saved", "Saved"}));
+}
+
+// The name editors ask in input boxes; a prompt's "&" is shown, not taken as a shortcut mark.
+TEST(QtDialogsTest, AnInputBoxShowsTheAmpersandOfItsPrompt) {
+  QString shown;  // the label as a person reads it, with shortcut marks taken out
+  QTimer::singleShot(0, [&] {
+    if (auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget())) {
+      shown = QAccessible::queryAccessibleInterface(box->findChild<QLabel*>())->text(QAccessible::Name);
+      box->reject();
+    }
+  });
+  EXPECT_EQ(QtDialogs().Input(kPokemonEntryPrompt, kDefaultTitle), std::nullopt);
+  EXPECT_EQ(shown.toStdString(), kPokemonEntryPrompt);
+}
+
+TEST_F(ToolWindowsTest, Form6InsertsLoadsAndPreviewsABrailleRecord) {
+  test::FixtureRom fixture = test::FixtureRom::Sapphire();
+  fixture.PutBytes(kS, Bytes(16, 0x11)).PutBytes(kS + 0x100, Bytes(16, 0x11));
+  ASSERT_TRUE(Open(fixture, MenuEntry::mnuib, WindowName::Form6));
+  auto* text1 = Find<QPlainTextEdit>("Text1");
+  auto* label1 = Find<QLabel>("Label1");
+  auto* shape1 = Find<QFrame>("Shape1");
+
+  text1->setFocus();
+  QTest::keyClicks(text1, "HI");
+  QTest::keyClick(text1, Qt::Key_Return);
+  QTest::keyClicks(text1, "A");
+  EXPECT_EQ(label1->text(), QString::fromUtf8("⠓⠊\n\n⠁"));
+  const char* const header[] = {"postionleft", "postiontop", "msgboxleft", "msgboxtop", "brailleleft", "brailletop"};
+  for (int i = 0; i < 6; ++i) Type(Find<QLineEdit>(header[i]), QString::number(i + 1));
+  EXPECT_EQ(label1->pos(), QPoint(40, 48));  // the braille fields move the text at once
+  EXPECT_EQ(shape1->geometry(), QRect(0, 0, 240, 159));
+  Click("Command3");
+  EXPECT_EQ(shape1->geometry(), QRect(8, 16, 229, 139));
+
+  Type(Find<QLineEdit>("Text2"), "&H700000");
+  Type(Find<QLineEdit>("Text3"), "&H700100");
+  dialogs.messageAnswers = {MessageAnswer::Yes};
+  const ByteOracle oracle(fixture.path());
+  Click("Command1");
+  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 12}, {kS + 0x100, 8}}));
+  EXPECT_EQ(At(oracle, kS, 12), "01 02 03 04 05 06 0D 06 FE 01 FF 00");
+  EXPECT_EQ(At(oracle, kS + 0x100, 8), "6A 5A 78 00 00 70 08 02");
+
+  Click("Command4");
+  EXPECT_EQ(shape1->geometry(), QRect(0, 0, 240, 159));
+  text1->clear();
+  Type(Find<QLineEdit>("postionleft"), "&H");
+  Click("Command2");
+  EXPECT_EQ(text1->toPlainText(), "HI\nA");
+  EXPECT_EQ(Text("postionleft"), "&H1");
+  EXPECT_EQ(shape1->geometry(), QRect(8, 16, 229, 139));
+
+  // A file that is no picture is refused and the picture stays.
+  QTemporaryDir folder;
+  const QString notes = folder.filePath("notes.bmp");
+  QFile(notes).open(QIODevice::WriteOnly);
+  dialogs.messages.clear();
+  dialogs.openFileAnswers = {notes.toStdString()};
+  Click("Command5");
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_THAT(dialogs.messages[0].text, HasSubstr("The preview keeps its picture."));
+  EXPECT_EQ(Find<QLabel>("Picture1")->pixmap().size(), QSize(240, 160));
+}
+
+TEST_F(ToolWindowsTest, Form8ClicksOnTheScrolledMapReachTheRecordAndTheSaveReachesTheFile) {
+  constexpr std::size_t kCinnabar = 0x3EEBF6 + 8 * 8;
+  test::FixtureRom fixture = test::FixtureRom::FireRed();
+  fixture.PutBytes(kCinnabar, {0x11, 0x22, 0x03, 0x04, 0x05, 0x66, 0x07, 0x88});
+  ASSERT_TRUE(Open(fixture, MenuEntry::mnuflin, WindowName::Form8));
+  Pick(Find<QComboBox>("kanto"), 8);  // "Cinnabar Island"
+  EXPECT_EQ(Find<QLabel>("BL")->text(), "B:3");
+  EXPECT_EQ(Find("Image1")->pos(), QPoint(80, 112));
+  EXPECT_TRUE(Find("Shape2")->isVisible());
+
+  // Three tiles scrolled: 37 pixels into the viewport is pixel 85 of the map, tile 5.
+  Find<QScrollBar>("HScroll1")->setValue(3);
+  EXPECT_EQ(Find("Picture2")->pos(), QPoint(-48, 0));
+  QWidget* viewport = Find("Picture1Inside");
+  auto at = [&](QPoint inViewport) { return viewport->mapTo(window, inViewport); };
+  QTest::mouseMove(window->windowHandle(), at({5, 50}));
+  EXPECT_EQ(Find("Shape1")->pos(), QPoint(48, 48));
+  QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, at({37, 20}));
+  EXPECT_EQ(Text("XXt") + Text("YYt"), "&H5&H1");
+  for (const char* marker : {"Shape1", "Shape2", "Image1"}) EXPECT_EQ(Find(marker)->pos(), QPoint(80, 16)) << marker;
+  // The bird icon now covers the tiles right of and below it; a press there is the map's.
+  QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, at({57, 40}));
+  EXPECT_EQ(Text("XXt") + Text("YYt"), "&H6&H2");
+
+  const ByteOracle oracle(fixture.path());
+  Click("savebutton");
+  EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("Saved"));
+  EXPECT_THAT(oracle.Changes(), ElementsAre(ByteRange{kCinnabar + 4, 1}, ByteRange{kCinnabar + 6, 1}));
+  EXPECT_EQ(oracle.Now()[kCinnabar + 4], 6);
+  EXPECT_EQ(oracle.Now()[kCinnabar + 6], 2);
+
+  // On a scaled desktop the pointer stands between pixels: at 127.9 it is in pixel 127, tile 7.
+  QWidget* surface = Find("Picture2");
+  QMouseEvent between(QEvent::MouseButtonPress, QPointF(127.9, 63.9), surface->mapToGlobal(QPointF(127.9, 63.9)),
+                      Qt::LeftButton, Qt::LeftButton, {});
+  QCoreApplication::sendEvent(surface, &between);
+  EXPECT_EQ(Text("XXt") + Text("YYt"), "&H7&H3");
+
+  // A BMP file, then a bitmap on the clipboard, become the map and set its size.
+  QTemporaryDir folder;
+  const QString bitmap = folder.filePath("map.bmp");
+  ASSERT_TRUE(QImage(640, 480, QImage::Format_RGB32).save(bitmap, "BMP"));
+  dialogs.messages.clear();
+  dialogs.openFileAnswers = {bitmap.toStdString()};
+  Click("Command2");
+  EXPECT_EQ(Text("Text1") + Text("Text2"), "&H28&H1E");
+  QGuiApplication::clipboard()->setImage(QImage(384, 320, QImage::Format_RGB32));
+  Click("Command1");
+  EXPECT_EQ(Text("Text1") + Text("Text2"), "&H18&H14");
+  QGuiApplication::clipboard()->clear();  // an empty clipboard keeps the picture, and says nothing
+  Click("Command1");
+  EXPECT_EQ(Text("Text1") + Text("Text2"), "&H18&H14");
+  EXPECT_THAT(dialogs.messages, IsEmpty());
+}
+
+}  // namespace
+}  // namespace tessarine
