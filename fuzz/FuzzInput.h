@@ -6,7 +6,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
-#include <ranges>
 #include <span>
 #include <string>
 
@@ -32,9 +31,10 @@ struct Input {
     const std::string taken = Text(most);
     return {taken.begin(), taken.end()};
   }
-  std::uint32_t Number(std::size_t bytes) {  // little-endian
+  std::uint32_t Number(std::size_t bytes) {
+    const Bytes taken = Block(bytes);
     std::uint32_t value = 0;
-    for (const std::uint8_t byte : Block(bytes) | std::views::reverse) value = value << 8 | byte;
+    for (auto byte = taken.rbegin(); byte != taken.rend(); ++byte) value = value << 8 | *byte;
     return value;
   }
 };
