@@ -50,10 +50,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fuzz::Require(*failure.what() != '\0', "a failure has a sentence");
   }
   game.session.dialogs.messages.clear();
-  const auto restore = [&](std::int64_t at, std::size_t count) {
-    rom.WriteBytes(static_cast<RomOffset>(at), Bytes(game.fixture.image().begin() + at, game.fixture.image().begin() + at + count));
-  };
-  if (placed) restore(script, pointed.size());
-  restore(person, record.size());
+  const std::span<const std::uint8_t> fixture = game.fixture.image();
+  if (placed) rom.WriteBytes(static_cast<RomOffset>(script), fixture.subspan(script, pointed.size()));
+  rom.WriteBytes(person, fixture.subspan(person, record.size()));
   return 0;
 }

@@ -20,10 +20,15 @@ using ::testing::IsEmpty;
 using Ranges = std::vector<test::ByteRange>;
 using Written = std::vector<std::pair<std::size_t, Bytes>>;  // each changed run of bytes, and its bytes now
 
-// A session on a fixture ROM of its own, opened as the Open button does.
+// A session on a fixture ROM of the game's events, changed by `prepare`, opened as the Open
+// button does.
 struct Session : test::MainSession {
   FixtureRom fixture;
-  explicit Session(FixtureRom rom_) : fixture(std::move(rom_)) { Open(fixture.path()); }
+  explicit Session(std::string_view code, const std::function<void(FixtureRom&)>& prepare = {})
+      : fixture(test::EventFixtureRom(code)) {
+    if (prepare) prepare(fixture);
+    Open(fixture.path());
+  }
   ~Session() { rom.Close(); }  // before the fixture goes: Windows deletes no file that is open
 };
 
@@ -44,14 +49,15 @@ void ExpectWritten(const ByteOracle& oracle, const Written& written) {
   for (const auto& [at, bytes] : written) EXPECT_EQ(Bytes(now.begin() + at, now.begin() + at + bytes.size()), bytes);
 }
 
-// Every event of every game: the fields after the pick; a save of a new sprite, movement,
-// flag and species that changes exactly the record's three fields and the two words; and a
-// second pick of the event, which reads back what the save wrote.
+// Every event of every game: the fields after the pick; a load of the words, which puts the
+// Flag back in Ruby and Sapphire only; a save of a new sprite, movement, flag and species that
+// changes exactly the record's three fields and the two words; and a second pick of the
+// event, which reads back what the save wrote.
 TEST(EventWorkspaceTest, EachEventOfEachGameLoadsAndSavesItsOwnBytes) {
   for (const char* code : {"AXVE", "AXPE", "BPRE", "BPGE"}) {
     for (const test::FixtureEvent& e : test::FixtureEvents(code)) {
       SCOPED_TRACE(std::string(code) + " " + std::string(e.name));
-      Session s(test::EventFixtureRom(code));
+      Session s(code);
       s.PickEvent(e.index);
       const bool hasWords = e.firstAt >= 0;
       const int followed = !hasWords ? 0 : e.listFollowsSecond ? e.second : e.first;  // no words: as the open left it
@@ -67,6 +73,9 @@ TEST(EventWorkspaceTest, EachEventOfEachGameLoadsAndSavesItsOwnBytes) {
                 (std::array{e.showsHoobla, e.showsHoobla, !e.showsHoobla, !e.showsHoobla}));
       const std::string deoxys = "Sorry But script Loading for this Pokemon is not yet supported.";
       EXPECT_EQ(s.dialogs.MessageTexts(), std::vector<std::string>(e.name == "Deoxys" ? 1 : 0, deoxys));
+      s.form.flagtxt.text = "&H1";
+      LoadEventWords(s.form, s.rom, s.dialogs);
+      EXPECT_EQ(s.form.flagtxt.text, code[0] == 'A' ? Hex(e.record.flag) : "&H1");
 
       s.dialogs.messages.clear();
       const ByteOracle oracle(s.fixture.path());
@@ -98,10 +107,10 @@ TEST(EventWorkspaceTest, ASaveThatCannotRunIsRefusedBeforeAnyWrite) {
   struct Row {
     const char* says;
     void (*edit)(Session&);
-    void (*prepare)(FixtureRom&) = [](FixtureRom&) {};
+    void (*prepare)(FixtureRom&) = nullptr;
     const char* loadFails = "";
     void (*allow)(Session&) = nullptr;
-    Ranges then = {};  // what the allowed save writes beside the sprite
+    Ranges then = {};  // what the allowed save writes: the sprite, and the words
   };
   const Row rows[] = {
       {"Behavior: \"&H100\"", [](Session& s) { s.form.behavtxt = "&H100"; }},
@@ -117,23 +126,22 @@ TEST(EventWorkspaceTest, ASaveThatCannotRunIsRefusedBeforeAnyWrite) {
          EXPECT_EQ(Fields(s.form)[7] + Fields(s.form)[8] + Fields(s.form)[10], "388&H19C&H0000");
        },
        [](FixtureRom& f) { f.PutWord(0xA00103, 412); }, "", [](Session& s) { SetCombo1Selection(s.form, 0x20); },
-       {{0xA00108, 2}}},  // the first word is no species: left alone
+       {{0x38EE51, 2}, {0xA00108, 2}}},  // the first word is no species: left alone
       {"The words of this event were not loaded",  // a null script pointer fails the load after the person fields
        [](Session& s) {
          EXPECT_EQ(Fields(s.form)[1] + Fields(s.form)[3] + Fields(s.form)[4], "&H2&HF8000000&HF8000000");
          s.form.scriptpointxt.text = "&HA00100";
        },
        [](FixtureRom& f) { f.PutLong(0x38EE50 + 16, 0); }, "&HF8000003",
-       [](Session& s) { LoadEventWords(s.form, s.rom, s.dialogs); }, {{0xA00108, 1}}},  // the Load beside Script
+       [](Session& s) { LoadEventWords(s.form, s.rom, s.dialogs); },  // the Load beside Script
+       {{0x38EE51, 2}, {0xA00108, 1}}},
       {"its last load stopped before it reached the Flag",  // a picked species frees the words, not the Flag
        [](Session& s) { SetCombo1Selection(s.form, 0x20); }, [](FixtureRom& f) { f.PutLong(0x38EE50 + 16, 0x80000000); },
        "does not lead into the ROM"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.says);
-    FixtureRom fixture = test::EventFixtureRom("AXVE");
-    row.prepare(fixture);
-    Session s(std::move(fixture));
+    Session s("AXVE", row.prepare);
     s.PickEvent(4);  // Regiice, then Rayquaza
     EXPECT_THAT(test::FailureOf([&] { s.PickEvent(1); }), HasSubstr(row.loadFails));
     s.form.spritetxt.text = "&H1F2";
@@ -146,9 +154,7 @@ TEST(EventWorkspaceTest, ASaveThatCannotRunIsRefusedBeforeAnyWrite) {
     if (row.allow == nullptr) continue;
     row.allow(s);
     s.Save();
-    Ranges then = {{0x38EE51, 2}};
-    then.insert(then.end(), row.then.begin(), row.then.end());
-    EXPECT_EQ(oracle.Changes(), then);
+    EXPECT_EQ(oracle.Changes(), row.then);
   }
 }
 
@@ -217,9 +223,7 @@ TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItL
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(std::string(row.code) + " " + std::to_string(row.event) + (row.says.empty() ? "" : row.says[0]));
-    FixtureRom fixture = test::EventFixtureRom(row.code);
-    row.prepare(fixture);
-    Session s(std::move(fixture));
+    Session s(row.code, row.prepare);
     s.PickEvent(row.event);
     SetCombo1Selection(s.form, 0x33);
     const ByteOracle oracle(s.fixture.path());
@@ -234,9 +238,7 @@ TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItL
 
 TEST(EventWorkspaceTest, MovementTypesFollowTheBehaviourByteAndASaveKeepsIt) {
   for (const auto& [behaviour, listRow] : {std::pair{0x00, 0}, {0x0A, 10}, {0x0B, 11}, {0x0C, 3}, {0x51, 3}}) {
-    FixtureRom fixture = test::EventFixtureRom("AXVE");
-    fixture.PutByte(0x38EE50 + 9, static_cast<std::uint8_t>(behaviour));
-    Session s(std::move(fixture));
+    Session s("AXVE", [&](FixtureRom& f) { f.PutByte(0x38EE50 + 9, static_cast<std::uint8_t>(behaviour)); });
     SetCombo2Selection(s.form, 3);  // a byte with no row leaves the list here
     s.PickEvent(1);
     EXPECT_EQ(Fields(s.form)[1] + Fields(s.form)[2], ToHexText(std::uint8_t(behaviour)) + std::to_string(listRow));
@@ -246,8 +248,10 @@ TEST(EventWorkspaceTest, MovementTypesFollowTheBehaviourByteAndASaveKeepsIt) {
   }
 }
 
-TEST(EventWorkspaceTest, AnIndexThatNamesNoRowOfAListChangesNothing) {
-  Session s(test::EventFixtureRom("AXVE"));
+TEST(EventWorkspaceTest, ALoadBeforeAnyPickAsksForOneAndAnIndexThatNamesNoRowChangesNothing) {
+  Session s("AXVE");
+  EXPECT_EQ(test::FailureOf([&] { LoadPerson(s.form, s.rom, s.dialogs); }),
+            "No event is picked, so there is no person record to read. Pick an event in the list first.");
   s.PickEvent(2);
   const Form1 before = s.form;
   for (const int index : {-1, 412, INT32_MIN, INT32_MAX}) {
@@ -259,22 +263,6 @@ TEST(EventWorkspaceTest, AnIndexThatNamesNoRowOfAListChangesNothing) {
   EXPECT_EQ(Fields(s.form), Fields(before));
   EXPECT_EQ(s.form.Combo1.text + s.form.Combo2.text + s.form.Combo3.text,
             before.Combo1.text + before.Combo2.text + before.Combo3.text);
-}
-
-TEST(EventWorkspaceTest, TheLoadOfAPersonBeforeAnyEventIsPickedAsksForAPick) {
-  Session s(test::EventFixtureRom("AXVE"));
-  EXPECT_EQ(test::FailureOf([&] { LoadPerson(s.form, s.rom, s.dialogs); }),
-            "No event is picked, so there is no person record to read. Pick an event in the list first.");
-}
-
-TEST(EventWorkspaceTest, TheWordLoadPutsTheFlagBackInRubyAndSapphire) {
-  for (const auto& [code, event, flag] : {std::tuple{"AXPE", 5, "&H805"}, {"BPRE", 1, "&H1"}}) {
-    Session s(test::EventFixtureRom(code));
-    s.PickEvent(event);
-    s.form.flagtxt.text = "&H1";
-    LoadEventWords(s.form, s.rom, s.dialogs);
-    EXPECT_EQ(s.form.flagtxt.text, flag) << code;
-  }
 }
 
 }  // namespace

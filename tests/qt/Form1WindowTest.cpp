@@ -9,9 +9,11 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QThread>
 #include <QTimer>
 
 #include "qt/LinedTextBoxWidget.h"
+#include "qt/QtListingProgress.h"
 #include "qt/QtShell.h"
 #include "rom/Failure.h"
 #include "support/ByteOracle.h"
@@ -57,9 +59,7 @@ TEST_F(Form1WindowTest, AnEventEditAndTwoListingsReachTheRomThroughTheWidgets) {
   EXPECT_EQ(Find<QLabel>("hdtxt")->text(), "AXPE");
   EXPECT_EQ(Find<QComboBox>("Combo1")->count(), 412);
   auto* events = Find<QComboBox>("Combo3");  // typed text selects no event, not even with Enter
-  events->setFocus();
-  events->lineEdit()->selectAll();
-  QTest::keyClicks(events, "Rayq");
+  Type(events->lineEdit(), "Rayq");
   QTest::keyClick(events, Qt::Key_Return);
   EXPECT_EQ(events->currentText() + QString::fromStdString(shell.form1().whee), "Rayq0");
   Pick(events, 2);  // Latias/Latios
@@ -167,6 +167,34 @@ TEST_F(Form1WindowTest, TheRightButtonOnTheBackgroundOpensTheToolsMenuWithNoRomO
   EXPECT_EQ(entries.value(1), "Insert Wild Battle Script");
   EXPECT_THAT(dialogs.programsStarted, ElementsAre("Kindlewick"));
   EXPECT_THAT(dialogs.messages, IsEmpty());  // not being able to start it passes in silence
+}
+
+// The dialog that a slow listing shows, and its Cancel.
+TEST(QtListingProgressTest, ASlowListingShowsTheDialogAndItsCancelKeepsText4) {
+  test::FixtureRom fixture("BPRE", 0x80000);  // 512 KiB of free space, a short script in its last two bytes
+  fixture.PutBytes(0x7FFFE, {0x6A, 0x02});
+  RomImage rom;
+  rom.Open(fixture.path());
+  test::ScriptedDialogs ui;
+  Form1 form;
+  form.Text3.text = "&H100";  // through all the free space
+  form.Text4.text = "what was there";
+  QWidget window;
+  QtListingProgress progress(&window);
+  const ListingProgress shown = progress.Callback();
+  int steps = 0;
+  bool sawDialog = false;
+  const bool replaced = ListIntoText4(form, rom, ui, [&](double done) {
+    if (++steps <= 6) QThread::msleep(100);  // slow enough for the half second to pass
+    const bool goOn = shown(done);
+    sawDialog = sawDialog || progress.dialog().isVisible();
+    if (steps == 8) progress.dialog().cancel();  // as a press of Cancel does
+    return goOn;
+  });
+  EXPECT_TRUE(sawDialog);
+  EXPECT_FALSE(replaced);
+  EXPECT_EQ(steps, 9);  // the first step after the cancel stops the listing
+  EXPECT_EQ(form.Text4.text, "what was there");
 }
 
 }  // namespace

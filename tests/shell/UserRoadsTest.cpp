@@ -85,12 +85,9 @@ struct User {
   }
   // `length` bytes at `distance` from the offset in `text`; none when it is no offset.
   static ByteRange From(const std::string& text, std::int64_t distance, std::int64_t length) {
-    try {
-      const std::int64_t at = ParseOffset(text) + distance;
-      if (at >= 0) return {static_cast<std::size_t>(at), static_cast<std::size_t>(length)};
-    } catch (const Failure&) {
-    }
-    return {0, 0};
+    std::int64_t at = -1;
+    test::FailureOf([&] { at = ParseOffset(text) + distance; });
+    return at < 0 ? ByteRange{0, 0} : ByteRange{static_cast<std::size_t>(at), static_cast<std::size_t>(length)};
   }
   void Open(const std::string& path) {
     ui.openFileAnswers = {path};
@@ -105,13 +102,16 @@ struct User {
     if (!list.rows.empty()) set(form, Die(std::ssize(list.rows)));
   }
 
+  void Type(std::initializer_list<TextBox*> fields, int top) {  // a Number into each field
+    for (TextBox* field : fields) field->text = Number(top);
+  }
+
   // A builder's fields, filled for all three forms at once; then the form's button.
   void Insert(WindowName window, Ranges& may) {
     Load(window);
-    for (TextBox* field : {&s.form3.pkmntxt, &s.form4.pkmntxt, &s.form5.pkmntxt, &s.form3.crytxt, &s.form4.crytxt,
-                           &s.form3.Text2, &s.form4.Text2, &s.form5.Text2}) {
-      field->text = Number(field == &s.form5.Text2 ? 347 : 412);
-    }
+    Type({&s.form3.pkmntxt, &s.form4.pkmntxt, &s.form5.pkmntxt, &s.form3.crytxt, &s.form4.crytxt, &s.form3.Text2,
+          &s.form4.Text2}, 412);
+    Type({&s.form5.Text2}, 347);
     Pick(s.form3, s.form3.Combo3, SetCombo3Selection);
     Pick(s.form4, s.form4.Combo3, SetCombo3Selection);
     Pick(s.form5, s.form5.Combo3, SetCombo3Selection);
@@ -194,18 +194,15 @@ struct User {
            Load(WindowName::Form8);
            SelectLocation(s.form8, s.rom, s.form1.headtxt, table ? table->list : LocationListName::hoenn, index);
          });
-         s.form8.XXt.text = Number(0x100);
-         s.form8.YYt.text = Number(0x100);
+         Type({&s.form8.XXt, &s.form8.YYt}, 0x100);
          const std::string record = table ? Hex(FlyRecordOffset(*table, index)) : "";
          may = {From(record, 4, 1), From(record, 6, 1)};  // bytes 4 and 6 only
          if (s.form8.savebutton.enabled) PressSavebutton(s.form8, s.rom, s.form1.headtxt, ui);
        }},
       {"insert braille", true, [this](Ranges& may) {
          Form6& form = s.form6;
-         for (TextBox* field : {&form.postionleft, &form.postiontop, &form.msgboxleft, &form.msgboxtop,
-                                &form.brailleleft, &form.brailletop}) {
-           field->text = Number(0x100);
-         }
+         Type({&form.postionleft, &form.postiontop, &form.msgboxleft, &form.msgboxtop, &form.brailleleft,
+               &form.brailletop}, 0x100);
          SetText1(form, Text("HELLO. WORLD'\r\n[End]\\h02x"));
          form.Text2.text = Offset();
          form.Text3.text = Offset();
@@ -218,12 +215,10 @@ struct User {
        }},
   };
   // Runs an action as its button does: a Failure ends it with its sentence.
-  std::string Do(const Action& action, Ranges& may) {
-    return test::FailureOf([&] { action.act(may); });
-  }
-  std::string Do(std::string_view name) {
-    Ranges may;
-    return Do(*std::ranges::find(actions, name, &Action::name), may);
+  std::string Do(std::string_view name, Ranges* may = nullptr) {
+    Ranges unused;
+    const Action& action = *std::ranges::find(actions, name, &Action::name);
+    return test::FailureOf([&] { action.act(may ? *may : unused); });
   }
 };
 
@@ -237,12 +232,11 @@ TEST(UserRoadsTest, NoActionWritesOutsideTheBytesItNames) {
   const std::string folder = ToPathText(root) + "/Pokémon hacks/";
   std::filesystem::create_directories(ToFilePath(folder));
   std::map<std::string, Bytes> last;  // each file as the last check saw it
-  std::vector<std::string> paths;
   for (const std::string_view code : {"AXVE", "AXPE", "BPRE", "BPGE", "BPEJ"}) {
     test::FixtureRom rom = RoadRom(code);
-    paths.push_back(folder + "ポケモン " + std::string(code) + ".gba");
-    std::filesystem::copy_file(ToFilePath(rom.path()), ToFilePath(paths.back()));
-    last[paths.back()] = rom.image();
+    const std::string path = folder + "ポケモン " + std::string(code) + ".gba";
+    std::filesystem::copy_file(ToFilePath(rom.path()), ToFilePath(path));
+    last[path] = rom.image();
   }
   User user(kSeed, false);
   Bytes now(kRomSize);
@@ -252,7 +246,8 @@ TEST(UserRoadsTest, NoActionWritesOutsideTheBytesItNames) {
     const std::size_t pick = user.Die(std::ssize(user.actions) + 1);
     const std::string name = pick < user.actions.size() ? std::string(user.actions[pick].name) : "open";
     Ranges may;
-    pick < user.actions.size() ? (void)user.Do(user.actions[pick], may) : user.Open(user.Die(8) ? paths[user.Die(5)] : "");
+    name == "open" ? user.Open(user.Die(8) ? std::next(last.begin(), user.Die(5))->first : "")
+                   : (void)user.Do(name, &may);
     if (path.empty()) continue;
     const std::string where = "seed " + std::to_string(kSeed) + ", step " + std::to_string(step) + ": " + name;
     std::ifstream file(ToFilePath(path), std::ios::binary);

@@ -1,5 +1,6 @@
 #include "support/EventFixtures.h"
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 
@@ -24,10 +25,9 @@ constexpr std::array<GameOffsets, 4> kGames{{
 }};
 
 const GameOffsets& Game(std::string_view code) {
-  for (const GameOffsets& game : kGames) {
-    if (game.code == code) return game;
-  }
-  throw std::invalid_argument("no fixture events for this game code");
+  const auto game = std::ranges::find(kGames, code, &GameOffsets::code);
+  if (game == kGames.end()) throw std::invalid_argument("no fixture events for this game code");
+  return *game;
 }
 
 constexpr std::uint32_t kFreeSpace = 0xA00000;  // the fixtures' scripts live here
@@ -45,13 +45,10 @@ std::string FixtureSpeciesName(int index) {
 }
 
 Bytes FixturePerson::Encode() const {
-  Bytes b{0x01, 0, 0, 0x07, 0x0A, 0x00, 0x0B, 0x00, 0x03, 0, 0x11, 0x09, 0x00, 0x0D, 0x04, 0x00, 0, 0, 0, 0, 0, 0};
-  b[1] = static_cast<std::uint8_t>(sprite);
-  b[2] = static_cast<std::uint8_t>(sprite >> 8);
-  b[9] = behaviour;
-  for (int i = 0; i < 4; ++i) b[16 + static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(scriptPointer >> (8 * i));
-  b[20] = static_cast<std::uint8_t>(flag);
-  b[21] = static_cast<std::uint8_t>(flag >> 8);
+  Bytes b{0x01, 0, 0, 0x07, 0x0A, 0x00, 0x0B, 0x00, 0x03, behaviour, 0x11, 0x09, 0x00, 0x0D, 0x04, 0x00, 0, 0, 0, 0, 0, 0};
+  for (std::size_t i = 0; i < 4; ++i) b[16 + i] = static_cast<std::uint8_t>(scriptPointer >> (8 * i));
+  for (std::size_t i = 0; i < 2; ++i) b[1 + i] = static_cast<std::uint8_t>(sprite >> (8 * i));
+  for (std::size_t i = 0; i < 2; ++i) b[20 + i] = static_cast<std::uint8_t>(flag >> (8 * i));
   return b;
 }
 
@@ -59,49 +56,36 @@ std::uint32_t SpeciesTableOffset(std::string_view gameCode) { return Game(gameCo
 
 std::vector<FixtureEvent> FixtureEvents(std::string_view gameCode) {
   const GameOffsets& g = Game(gameCode);
-  struct Row {
-    std::string_view name;
-    std::uint32_t person;
-    std::uint32_t constantScript;  // 0: the person record's pointer leads to the words
-    int firstAt, secondAt;
-    bool listFollowsSecond, showsHoobla;
-  };
-  std::vector<Row> rows;
-  if (g.rs) {
-    rows = {{"Select a Event", g.label1, 0, -1, -1, false, false},
-            {"Rayquaza", g.label1, 0, 3, 8, false, false},
-            {"Latias/Latios", g.raytxt, g.latiScript, 89, 51, false, true},
-            {"Groudon/Kyogre", g.grou, g.groudonScript, 79, 86, false, true},
-            {"Regiice", g.regi1, 0, 13, 4, true, false},
-            {"Regirock", g.regi3, 0, 13, 4, true, false},
-            {"Registeel", g.regi2, 0, 13, 4, true, false}};
-  } else {
-    rows = {{"Select a Event", g.label1, 0, -1, -1, false, false},
-            {"Zapdos", g.label1, 0, 20, 27, false, false},
-            {"Moltres", g.regi1, 0, 20, 27, false, false},
-            {"Articuno", g.regi2, 0, 20, 27, false, false},
-            {"Mewtwo", g.regi3, 0, 41, 20, false, false},
-            {"Deoxys", g.raytxt, 0, -1, -1, false, false}};
-  }
+  // A script of 0: the person record's pointer leads to the words.
   std::vector<FixtureEvent> events;
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    const Row& row = rows[i];
+  if (g.rs) {
+    events = {{.name = "Select a Event", .person = g.label1},
+              {.name = "Rayquaza", .person = g.label1, .firstAt = 3, .secondAt = 8},
+              {.name = "Latias/Latios", .person = g.raytxt, .script = g.latiScript, .firstAt = 89, .secondAt = 51,
+               .showsHoobla = true},
+              {.name = "Groudon/Kyogre", .person = g.grou, .script = g.groudonScript, .firstAt = 79, .secondAt = 86,
+               .showsHoobla = true},
+              {.name = "Regiice", .person = g.regi1, .firstAt = 13, .secondAt = 4, .listFollowsSecond = true},
+              {.name = "Regirock", .person = g.regi3, .firstAt = 13, .secondAt = 4, .listFollowsSecond = true},
+              {.name = "Registeel", .person = g.regi2, .firstAt = 13, .secondAt = 4, .listFollowsSecond = true}};
+  } else {
+    events = {{.name = "Select a Event", .person = g.label1},
+              {.name = "Zapdos", .person = g.label1, .firstAt = 20, .secondAt = 27},
+              {.name = "Moltres", .person = g.regi1, .firstAt = 20, .secondAt = 27},
+              {.name = "Articuno", .person = g.regi2, .firstAt = 20, .secondAt = 27},
+              {.name = "Mewtwo", .person = g.regi3, .firstAt = 41, .secondAt = 20},
+              {.name = "Deoxys", .person = g.raytxt}};
+  }
+  for (std::size_t i = 0; i < events.size(); ++i) {
+    FixtureEvent& e = events[i];
     const auto k = static_cast<std::uint32_t>(i);
     const std::uint32_t pointed = kFreeSpace + 0x100 * k;
-    FixtureEvent e;
     e.index = static_cast<int>(i);
-    e.name = row.name;
-    e.person = row.person;
     e.record = {static_cast<std::uint16_t>(0x50 + k), static_cast<std::uint8_t>(k + 1),
                 static_cast<std::uint16_t>(0x800 + k), pointed + 0x08000000};
-    e.script = row.constantScript != 0 ? row.constantScript : pointed;
-    e.firstAt = row.firstAt;
-    e.secondAt = row.secondAt;
-    e.first = static_cast<std::uint16_t>(0x100 + k);   // two distinct species numbers
+    if (e.script == 0) e.script = pointed;
+    e.first = static_cast<std::uint16_t>(0x100 + k);  // two distinct species numbers
     e.second = static_cast<std::uint16_t>(0x180 + k);
-    e.listFollowsSecond = row.listFollowsSecond;
-    e.showsHoobla = row.showsHoobla;
-    events.push_back(e);
   }
   events[0].record = events[1].record;  // entry 0 shows the first event's person
   events[0].script = events[1].script;

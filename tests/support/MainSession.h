@@ -29,18 +29,13 @@ struct MainSession {
   }
   // Picks an event in the list that the open ROM's family shows.
   void PickEvent(int index) {
-    if (form.cowmoo == "rs") {
-      SetCombo3Selection(form, rom, dialogs, index);
-    } else {
-      SetCombo4Selection(form, rom, dialogs, index);
-    }
+    if (form.cowmoo == "rs") return SetCombo3Selection(form, rom, dialogs, index);
+    SetCombo4Selection(form, rom, dialogs, index);
   }
   // The Save button.
   void Save() { SavePerson(form, rom, dialogs); }
   // The sentence of the failure that ends a save, or "" when the save runs through.
-  std::string SaveFailure() {
-    return FailureOf([this] { Save(); });
-  }
+  std::string SaveFailure() { return FailureOf([this] { Save(); }); }
 };
 
 }  // namespace tessarine::test

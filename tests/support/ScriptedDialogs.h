@@ -11,7 +11,7 @@ namespace tessarine::test {
 
 // Dialogs that answer from queues and record every question, for tests that walk a
 // user's road with no window. A question with no queued answer gets the harmless one:
-// OK (or No), a cancelled input box, a cancelled file dialog.
+// OK (or No), a cancelled input box, a cancelled file dialog, a program that is not found.
 class ScriptedDialogs : public Dialogs {
  public:
   struct MessageShown {
@@ -23,10 +23,6 @@ class ScriptedDialogs : public Dialogs {
     std::string prompt;
     std::string title;
   };
-  struct FileDialogShown {
-    std::string title;
-    std::string filter;
-  };
   struct WindowEvent {
     WindowName window;
     bool shown;
@@ -36,11 +32,10 @@ class ScriptedDialogs : public Dialogs {
   std::deque<MessageAnswer> messageAnswers;
   std::deque<std::optional<std::string>> inputAnswers;
   std::deque<std::string> openFileAnswers;
-  bool programsStart = false;
 
   std::vector<MessageShown> messages;
   std::vector<InputShown> inputs;
-  std::vector<FileDialogShown> fileDialogs;
+  std::vector<std::string> fileDialogs;  // their titles
   std::vector<WindowEvent> windowEvents;
   std::vector<std::string> programsStarted;
 
@@ -59,15 +54,15 @@ class ScriptedDialogs : public Dialogs {
     inputs.push_back({std::string(prompt), std::string(title)});
     return Next(inputAnswers, std::optional<std::string>());
   }
-  std::string OpenFile(std::string_view title, std::string_view filter) override {
-    fileDialogs.push_back({std::string(title), std::string(filter)});
+  std::string OpenFile(std::string_view title, std::string_view /*filter*/) override {
+    fileDialogs.emplace_back(title);
     return Next(openFileAnswers, std::string());
   }
   void Show(WindowName window) override { windowEvents.push_back({window, true}); }
   void Hide(WindowName window) override { windowEvents.push_back({window, false}); }
   bool StartProgram(std::string_view name) override {
     programsStarted.emplace_back(name);
-    return programsStart;
+    return false;  // as where the program is not found
   }
 
  private:
