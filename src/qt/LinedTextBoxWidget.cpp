@@ -51,9 +51,10 @@ LinedTextBoxWidget::LinedTextBoxWidget(QWidget* parent)
   fillTimer_->setInterval(0);  // a part whenever the program has nothing else to do
   connect(fillTimer_, &QTimer::timeout, this, &LinedTextBoxWidget::AppendPart);
   // Each move of the view (a scroll, a drag of the bar, Ctrl+End, Page Down, a key at the end
-  // of the text) may bring it near the end of what is shown.
-  connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &LinedTextBoxWidget::ReadOn);
-  connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &LinedTextBoxWidget::ReadOn);
+  // of the text) may bring it near the end of what is shown, and each one asks for a paint.
+  // (The bar's own signals do not serve: the box moves the bar with them blocked when the
+  // caret takes the view along.)
+  connect(this, &QPlainTextEdit::updateRequest, this, &LinedTextBoxWidget::ReadOn);
   gutter_->setVisible(false);
   notice_->setVisible(false);
   notice_->setAutoFillBackground(true);
@@ -123,6 +124,7 @@ void LinedTextBoxWidget::ShowPlainText(const std::string& text) {
   fillFrom_ = 0;
   lines_ = linesToCome_ = LinesIn(text, 0, text.size());
   AppendPart();  // the start, at once
+  setTextCursor(QTextCursor(document()));  // the caret at the start, where the part came in behind it
   gutter_->update();  // also while the box's signals are blocked
 }
 
