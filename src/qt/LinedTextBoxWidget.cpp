@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QPlainTextDocumentLayout>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -131,7 +132,10 @@ void LinedTextBoxWidget::ShowPlainText(const std::string& text) {
 // Every part comes through here, from the timer, from ShowPlainText and from FinishFilling;
 // so a want of memory is met here and goes no further.
 void LinedTextBoxWidget::AppendPart() {
-  if (source_ == nullptr) return;
+  if (source_ == nullptr) {
+    fillTimer_->stop();
+    return;
+  }
   const std::string& text = *source_;
   if (text.size() != sourceSize_) {  // the text changed under the box; the next ShowPlainText brings it
     CompleteFilling();
@@ -139,9 +143,14 @@ void LinedTextBoxWidget::AppendPart() {
   }
   try {
     const std::size_t to = PartEnd(text, fillFrom_);
-    QTextCursor end(document());
-    end.movePosition(QTextCursor::End);
-    end.insertText(Part(text, fillFrom_, to));
+    {
+      // The paints that the part asks for while it goes in do not make the box read on: that
+      // is decided below, once the part is in and counted.
+      const QScopedValueRollback<bool> adding(adding_, true);
+      QTextCursor end(document());
+      end.movePosition(QTextCursor::End);
+      end.insertText(Part(text, fillFrom_, to));
+    }
     linesToCome_ -= LinesIn(text, fillFrom_, to);
     fillFrom_ = to;
     gutter_->update();
@@ -171,7 +180,7 @@ void LinedTextBoxWidget::PaceFilling() {
 }
 
 void LinedTextBoxWidget::ReadOn() {
-  if (source_ == nullptr || fillTimer_->isActive()) return;
+  if (source_ == nullptr || adding_ || fillTimer_->isActive()) return;
   try {
     PaceFilling();
   } catch (const std::bad_alloc&) {

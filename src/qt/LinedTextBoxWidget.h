@@ -116,6 +116,7 @@ class LinedTextBoxWidget : public QPlainTextEdit {
   qsizetype lines_ = 0;                  // in the whole text
   qsizetype linesToCome_ = 0;            // in the text from fillFrom_ on
   int fillBudget_ = kFillBudget;
+  bool adding_ = false;                  // while a part goes into the document
   QTimer* fillTimer_;
   QLabel* notice_;
 };

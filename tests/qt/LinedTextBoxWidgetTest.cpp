@@ -159,6 +159,20 @@ TEST_F(LinedTextBoxWidgetTest, ALongTextFillsOnItsOwnUpToTheBudgetAndThenAsThePe
   EXPECT_TRUE(replaced.isNull());  // and the box keeps no text it left
   QCoreApplication::processEvents();
   EXPECT_EQ(box_->toPlainText(), "lock\n");
+
+  struct : QObject {  // a want of memory, once, where the line under the text first shows
+    bool eventFilter(QObject*, QEvent* e) override {
+      return e->type() == QEvent::Show && !refused++ ? throw std::bad_alloc() : false;
+    }
+    int refused = 0;
+  } noMemory;
+  box_->findChild<QLabel*>()->installEventFilter(&noMemory);
+  box_->ShowPlainText(text);  // stops the filling there, and says what is shown and what is missing
+  QCoreApplication::processEvents();
+  const QLocale english(QLocale::English);
+  EXPECT_FALSE(box_->Filling());
+  EXPECT_EQ(box_->Notice()->text(), "Out of memory: " + english.toString(box_->blockCount() - 1) + " lines shown; the other " +
+                                        english.toString(100001 - box_->blockCount()) + " could not be added.");
 }
 
 }  // namespace
