@@ -125,7 +125,6 @@ void LinedTextBoxWidget::ShowPlainText(const std::string& text) {
   fillFrom_ = 0;
   lines_ = linesToCome_ = LinesIn(text, 0, text.size());
   AppendPart();  // the start, at once
-  setTextCursor(QTextCursor(document()));  // the caret at the start, where the part came in behind it
   gutter_->update();  // also while the box's signals are blocked
 }
 
@@ -143,14 +142,7 @@ void LinedTextBoxWidget::AppendPart() {
   }
   try {
     const std::size_t to = PartEnd(text, fillFrom_);
-    {
-      // The paints that the part asks for while it goes in do not make the box read on: that
-      // is decided below, once the part is in and counted.
-      const QScopedValueRollback<bool> adding(adding_, true);
-      QTextCursor end(document());
-      end.movePosition(QTextCursor::End);
-      end.insertText(Part(text, fillFrom_, to));
-    }
+    AddAtEnd(Part(text, fillFrom_, to));
     linesToCome_ -= LinesIn(text, fillFrom_, to);
     fillFrom_ = to;
     gutter_->update();
@@ -162,6 +154,25 @@ void LinedTextBoxWidget::AppendPart() {
   } catch (const std::bad_alloc&) {
     StopForWantOfMemory();
   }
+}
+
+// The caret and the selection stay where the person put them, also at the end of the text,
+// and the view stays too. While the part goes in, the paints it asks for do not make the box
+// read on: that is for AppendPart to decide once the part is in and counted.
+void LinedTextBoxWidget::AddAtEnd(const QString& part) {
+  const QScopedValueRollback<bool> adding(adding_, true);
+  const int anchor = textCursor().anchor(), position = textCursor().position();
+  const int top = verticalScrollBar()->value(), left = horizontalScrollBar()->value();
+  QTextCursor end(document());
+  end.movePosition(QTextCursor::End);
+  end.insertText(part);
+  if (textCursor().anchor() == anchor && textCursor().position() == position) return;
+  QTextCursor kept(document());
+  kept.setPosition(anchor);
+  kept.setPosition(position, QTextCursor::KeepAnchor);
+  setTextCursor(kept);
+  verticalScrollBar()->setValue(top);
+  horizontalScrollBar()->setValue(left);
 }
 
 // The box goes on adding parts on its own up to the budget, and past it while the view is

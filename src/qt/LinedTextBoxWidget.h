@@ -97,6 +97,7 @@ class LinedTextBoxWidget : public QPlainTextEdit {
   void PaintGutter(QPainter& painter);
   void ForwardToText(QMouseEvent* event);
   void AppendPart();
+  void AddAtEnd(const QString& part);
   void PaceFilling();
   void ReadOn();
   void CompleteFilling();

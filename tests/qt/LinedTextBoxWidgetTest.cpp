@@ -139,7 +139,9 @@ TEST_F(LinedTextBoxWidgetTest, ALongTextFillsOnItsOwnUpToTheBudgetAndThenAsThePe
     QTest::keyClicks(box_, "x");
     int reads = 0;
     for (int shown = 0; box_->LinesToCome() > 0 || box_->Filling(); ++reads, shown = box_->blockCount()) {
+      const int caret = box_->textCursor().position();  // a part that comes in behind the caret leaves it there
       while (box_->Filling()) QCoreApplication::processEvents();
+      EXPECT_EQ(box_->textCursor().position(), caret);
       EXPECT_LT(box_->blockCount() - shown, reads == 0 ? budget + 10000 : 10000) << budget;  // a part a read
       EXPECT_EQ(box_->LinesToCome(), box_->Notice()->isVisible() ? 100001 - box_->blockCount() : 0);
       QTest::keyClick(box_, Qt::Key_End, Qt::ControlModifier);
