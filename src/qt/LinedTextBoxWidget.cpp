@@ -5,8 +5,11 @@
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QLocale>
 #include <QPlainTextDocumentLayout>
 #include <QPointer>
+#include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTextBlock>
 
 namespace tessarine {
@@ -44,11 +47,21 @@ class LinedTextBoxWidget::GutterArea : public QWidget {
 };
 
 LinedTextBoxWidget::LinedTextBoxWidget(QWidget* parent)
-    : QPlainTextEdit(parent), gutter_(new GutterArea(this)), fillTimer_(new QTimer(this)) {
+    : QPlainTextEdit(parent), gutter_(new GutterArea(this)), fillTimer_(new QTimer(this)), notice_(new QLabel(this)) {
   setLineWrapMode(QPlainTextEdit::NoWrap);
   fillTimer_->setInterval(0);  // a part whenever the program has nothing else to do
   connect(fillTimer_, &QTimer::timeout, this, &LinedTextBoxWidget::AppendPart);
+  // Each move of the view (a scroll, a drag of the bar, Ctrl+End, Page Down, a key at the end
+  // of the text) may bring it near the end of what is shown, and each one asks for a paint.
+  // (The bar's own signals do not serve: the box moves the bar with them blocked when the
+  // caret takes the view along.)
+  connect(this, &QPlainTextEdit::updateRequest, this, &LinedTextBoxWidget::ReadOn);
   gutter_->setVisible(false);
+  notice_->setVisible(false);
+  notice_->setAutoFillBackground(true);
+  notice_->setBackgroundRole(QPalette::Button);
+  notice_->setForegroundRole(QPalette::ButtonText);
+  notice_->setContentsMargins(4, 2, 4, 2);
   // Every paint of the text (a key, a scroll, a change of text) and every move of the caret
   // or the selection (a click, a drag step, a selection made by the program) paints the
   // gutter too.
@@ -85,6 +98,15 @@ QString Part(const std::string& text, std::size_t from, std::size_t to) {
   return QString::fromUtf8(text.data() + from, static_cast<qsizetype>(to - from));
 }
 
+// The lines of text[from, to), the last one counted also without its line break.
+qsizetype LinesIn(const std::string& text, std::size_t from, std::size_t to) {
+  const auto begin = text.begin() + static_cast<std::ptrdiff_t>(from);
+  const auto end = text.begin() + static_cast<std::ptrdiff_t>(to);
+  return std::count(begin, end, '\n') + (to > from && text[to - 1] != '\n' ? 1 : 0);
+}
+
+QString Count(qsizetype lines) { return QLocale(QLocale::English).toString(static_cast<qlonglong>(lines)); }
+
 }  // namespace
 
 void LinedTextBoxWidget::ShowPlainText(const std::string& text) {
@@ -94,48 +116,124 @@ void LinedTextBoxWidget::ShowPlainText(const std::string& text) {
   next->setDefaultFont(font());
   next->setUndoRedoEnabled(false);  // until it is complete: the filling is no edit to undo
   next->setDocumentLayout(new QPlainTextDocumentLayout(next));
-  fillFrom_ = PartEnd(text, 0);
-  QTextCursor(next).insertText(Part(text, 0, fillFrom_));
   // The box deletes a document of its own making when it takes another; one of ours, we do.
   const QPointer<QTextDocument> previous = document();
   setDocument(next);
   if (previous && previous->parent() == this) delete previous;
+  source_ = &text;
+  sourceSize_ = text.size();
+  fillFrom_ = 0;
+  lines_ = linesToCome_ = LinesIn(text, 0, text.size());
+  AppendPart();  // the start, at once
   gutter_->update();  // also while the box's signals are blocked
-  if (fillFrom_ < text.size()) {
-    source_ = &text;
-    sourceSize_ = text.size();
-    fillTimer_->start();
-  } else {
-    CompleteFilling();
-  }
 }
 
+// Every part comes through here, from the timer, from ShowPlainText and from FinishFilling;
+// so a want of memory is met here and goes no further.
 void LinedTextBoxWidget::AppendPart() {
+  if (source_ == nullptr) {
+    fillTimer_->stop();
+    return;
+  }
   const std::string& text = *source_;
   if (text.size() != sourceSize_) {  // the text changed under the box; the next ShowPlainText brings it
     CompleteFilling();
     return;
   }
-  const std::size_t to = PartEnd(text, fillFrom_);
+  try {
+    const std::size_t to = PartEnd(text, fillFrom_);
+    AddAtEnd(Part(text, fillFrom_, to));
+    linesToCome_ -= LinesIn(text, fillFrom_, to);
+    fillFrom_ = to;
+    gutter_->update();
+    if (fillFrom_ == text.size()) {
+      CompleteFilling();
+    } else {
+      PaceFilling();
+    }
+  } catch (const std::bad_alloc&) {
+    StopForWantOfMemory();
+  }
+}
+
+// The caret and the selection stay where the person put them, also at the end of the text,
+// and the view stays too. While the part goes in, the paints it asks for do not make the box
+// read on: that is for AppendPart to decide once the part is in and counted.
+void LinedTextBoxWidget::AddAtEnd(const QString& part) {
+  const QScopedValueRollback<bool> adding(adding_, true);
+  const int anchor = textCursor().anchor(), position = textCursor().position();
+  const int top = verticalScrollBar()->value(), left = horizontalScrollBar()->value();
   QTextCursor end(document());
   end.movePosition(QTextCursor::End);
-  end.insertText(Part(text, fillFrom_, to));
-  fillFrom_ = to;
-  gutter_->update();
-  if (fillFrom_ == text.size()) CompleteFilling();
+  end.insertText(part);
+  if (textCursor().anchor() == anchor && textCursor().position() == position) return;
+  QTextCursor kept(document());
+  kept.setPosition(anchor);
+  kept.setPosition(position, QTextCursor::KeepAnchor);
+  setTextCursor(kept);
+  verticalScrollBar()->setValue(top);
+  horizontalScrollBar()->setValue(left);
+}
+
+// The box goes on adding parts on its own up to the budget, and past it while the view is
+// within a page of the end of what is shown.
+void LinedTextBoxWidget::PaceFilling() {
+  const QScrollBar* bar = verticalScrollBar();
+  const bool nearEnd = bar->maximum() - bar->value() <= bar->pageStep();
+  if (document()->blockCount() < fillBudget_ || nearEnd) {
+    fillTimer_->start();
+    SayWhatIsToCome(tr("%1 lines shown; %2 more are being added.").arg(Count(lines_ - linesToCome_), Count(linesToCome_)));
+  } else {
+    fillTimer_->stop();
+    SayWhatIsToCome(tr("%1 lines shown; %2 more come as you scroll to the end.")
+                        .arg(Count(lines_ - linesToCome_), Count(linesToCome_)));
+  }
+}
+
+void LinedTextBoxWidget::ReadOn() {
+  if (source_ == nullptr || adding_ || fillTimer_->isActive()) return;
+  try {
+    PaceFilling();
+  } catch (const std::bad_alloc&) {
+    StopForWantOfMemory();
+  }
 }
 
 void LinedTextBoxWidget::FinishFilling() {
-  while (Filling()) AppendPart();
+  while (source_ != nullptr) AppendPart();
 }
 
 void LinedTextBoxWidget::CompleteFilling() {
   fillTimer_->stop();
   source_ = nullptr;
   fillFrom_ = 0;
+  linesToCome_ = 0;
   document()->setUndoRedoEnabled(true);
   document()->setModified(false);
+  SayWhatIsToCome(QString());
   emit Filled();
+}
+
+// What the box shows stays, and so does the sentence about what it does not.
+void LinedTextBoxWidget::StopForWantOfMemory() {
+  fillTimer_->stop();
+  source_ = nullptr;
+  try {
+    document()->setUndoRedoEnabled(true);
+    SayWhatIsToCome(tr("Out of memory: %1 lines shown; the other %2 could not be added.")
+                        .arg(Count(lines_ - linesToCome_), Count(linesToCome_)));
+  } catch (const std::bad_alloc&) {
+    notice_->setVisible(false);  // the box as it is, the filling stopped, and nothing more to be done
+  }
+}
+
+// The line under the text, with room made for it; none for an empty sentence.
+void LinedTextBoxWidget::SayWhatIsToCome(const QString& sentence) {
+  const bool show = !sentence.isEmpty();
+  notice_->setText(sentence);
+  if (notice_->isVisibleTo(this) == show) return;
+  notice_->setVisible(show);
+  LayOutTray();
 }
 
 // The text view gives up TrayWidth pixels on its left to the strip.
@@ -143,7 +241,7 @@ void LinedTextBoxWidget::LayOutTray() {
   const QString zeros(EffectiveNumDigits(numDigits_), QLatin1Char('0'));
   digitsWidth_ = fontMetrics().horizontalAdvance(zeros);
   trayWidth_ = on_ ? tessarine::TrayWidth(digitsWidth_) : 0;
-  setViewportMargins(trayWidth_, 0, 0, 0);
+  setViewportMargins(trayWidth_, 0, 0, notice_->isVisibleTo(this) ? notice_->sizeHint().height() : 0);
   gutter_->setVisible(on_);
   PlaceGutter();
   gutter_->update();
@@ -153,6 +251,14 @@ void LinedTextBoxWidget::LayOutTray() {
 void LinedTextBoxWidget::PlaceGutter() {
   const QRect view = viewport()->geometry();
   gutter_->setGeometry(view.left() - trayWidth_, view.top(), trayWidth_, view.height());
+  PlaceNotice();
+}
+
+// Under the text view and the gutter, as wide as both.
+void LinedTextBoxWidget::PlaceNotice() {
+  const QRect view = viewport()->geometry();
+  notice_->setGeometry(view.left() - trayWidth_, view.bottom() + 1, view.width() + trayWidth_,
+                       notice_->sizeHint().height());
 }
 
 GutterInput LinedTextBoxWidget::MeasureGutter() const {

@@ -121,22 +121,37 @@ TEST_F(LinedTextBoxWidgetTest, RowsStandBesideTheirLinesFollowScrollingAndTakeTh
             "line 102\u2029line 103\u2029line 104\u2029line 105\u2029");
 }
 
-TEST_F(LinedTextBoxWidgetTest, ALongTextShowsItsStartAtOnceAndFillsWhileTheBoxStaysInUse) {
+// A long text shows its start at once and fills while the box stays in use: whole under the
+// budget, and past it a part each time the view goes to the end.
+TEST_F(LinedTextBoxWidgetTest, ALongTextFillsOnItsOwnUpToTheBudgetAndThenAsThePersonReadsOn) {
   const std::string text = Lines(100000) + "\r\n";
   int filled = 0;
   QObject::connect(box_, &LinedTextBoxWidget::Filled, [&] { ++filled; });
-  box_->ShowPlainText(text);
-  EXPECT_TRUE(box_->Filling());
-  EXPECT_GT(box_->blockCount(), 1000);  // more than a screen, less than the whole
-  EXPECT_LT(box_->blockCount(), 100001);
-  EXPECT_EQ(Painted().rows.front().number, "0001");
-  box_->moveCursor(QTextCursor::Start);  // the box takes a key while it fills, and keeps it
-  QTest::keyClicks(box_, "x");
-  while (box_->Filling()) QCoreApplication::processEvents();
-  EXPECT_EQ(filled, 1);
-  EXPECT_EQ(box_->toPlainText(), "x" + QString::fromStdString(text).replace("\r\n", "\n"));
-  QTest::keyClick(box_, Qt::Key_Z, Qt::ControlModifier);  // the typed key undoes; the listing stays
-  EXPECT_EQ(box_->blockCount(), 100001);
+  for (const int budget : {LinedTextBoxWidget::kFillBudget, 30000}) {
+    filled = 0;
+    box_->SetFillBudget(budget);
+    box_->ShowPlainText(text);
+    EXPECT_TRUE(box_->Filling());
+    EXPECT_GT(box_->blockCount(), 1000);  // more than a screen, less than the whole
+    EXPECT_LT(box_->blockCount(), 100001);
+    EXPECT_EQ(Painted().rows.front().number, "0001");
+    box_->moveCursor(QTextCursor::Start);  // the box takes a key while it fills, and keeps it
+    QTest::keyClicks(box_, "x");
+    int reads = 0;
+    for (int shown = 0; box_->LinesToCome() > 0 || box_->Filling(); ++reads, shown = box_->blockCount()) {
+      const int caret = box_->textCursor().position();  // a part that comes in behind the caret leaves it there
+      while (box_->Filling()) QCoreApplication::processEvents();
+      EXPECT_EQ(box_->textCursor().position(), caret);
+      EXPECT_LT(box_->blockCount() - shown, reads == 0 ? budget + 10000 : 10000) << budget;  // a part a read
+      EXPECT_EQ(box_->LinesToCome(), box_->Notice()->isVisible() ? 100001 - box_->blockCount() : 0);
+      QTest::keyClick(box_, Qt::Key_End, Qt::ControlModifier);
+    }
+    EXPECT_EQ(reads > 1, budget < 100000);
+    EXPECT_EQ(filled, 1);
+    EXPECT_EQ(box_->toPlainText(), "x" + QString::fromStdString(text).replace("\r\n", "\n"));
+    QTest::keyClick(box_, Qt::Key_Z, Qt::ControlModifier);  // the typed key undoes; the listing stays
+    EXPECT_EQ(box_->blockCount(), 100001);
+  }
 
   box_->ShowPlainText(text);  // another text stops the filling of the one before
   const QPointer<QTextDocument> replaced = box_->document();
@@ -146,6 +161,20 @@ TEST_F(LinedTextBoxWidgetTest, ALongTextShowsItsStartAtOnceAndFillsWhileTheBoxSt
   EXPECT_TRUE(replaced.isNull());  // and the box keeps no text it left
   QCoreApplication::processEvents();
   EXPECT_EQ(box_->toPlainText(), "lock\n");
+
+  struct : QObject {  // a want of memory, once, where the line under the text first shows
+    bool eventFilter(QObject*, QEvent* e) override {
+      return e->type() == QEvent::Show && !refused++ ? throw std::bad_alloc() : false;
+    }
+    int refused = 0;
+  } noMemory;
+  box_->findChild<QLabel*>()->installEventFilter(&noMemory);
+  box_->ShowPlainText(text);  // stops the filling there, and says what is shown and what is missing
+  QCoreApplication::processEvents();
+  const QLocale english(QLocale::English);
+  EXPECT_FALSE(box_->Filling());
+  EXPECT_EQ(box_->Notice()->text(), "Out of memory: " + english.toString(box_->blockCount() - 1) + " lines shown; the other " +
+                                        english.toString(100001 - box_->blockCount()) + " could not be added.");
 }
 
 }  // namespace
