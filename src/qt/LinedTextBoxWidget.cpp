@@ -124,6 +124,7 @@ void LinedTextBoxWidget::ShowPlainText(const std::string& text) {
   sourceSize_ = text.size();
   fillFrom_ = 0;
   lines_ = linesToCome_ = LinesIn(text, 0, text.size());
+  fillUntil_ = fillBudget_;
   AppendPart();  // the start, at once
   gutter_->update();  // also while the box's signals are blocked
 }
@@ -179,8 +180,10 @@ void LinedTextBoxWidget::AddAtEnd(const QString& part) {
 // within a page of the end of what is shown.
 void LinedTextBoxWidget::PaceFilling() {
   const QScrollBar* bar = verticalScrollBar();
-  const bool nearEnd = bar->maximum() - bar->value() <= bar->pageStep();
-  if (document()->blockCount() < fillBudget_ || nearEnd) {
+  if (bar->maximum() - bar->value() <= bar->pageStep()) {  // near the end: another budget's worth
+    fillUntil_ = std::max(fillUntil_, document()->blockCount() + fillBudget_);
+  }
+  if (document()->blockCount() < fillUntil_) {
     fillTimer_->start();
     SayWhatIsToCome(tr("%1 lines shown; %2 more are being added.").arg(Count(lines_ - linesToCome_), Count(linesToCome_)));
   } else {

@@ -33,13 +33,14 @@ class LinedTextBoxWidget : public QPlainTextEdit {
   void Filled();
 
  public:
-  // The lines that the box adds on its own, without a person reading on. A document costs
-  // about 510 bytes a line: 500,000 lines are some 255 MB, while the listing of 8 MiB of free
-  // space is 8.4 million lines, 4.3 GB, and a ROM of 32 MiB listed from its start four times
-  // that, more than an ordinary machine has. Beyond the budget the next part comes only when
-  // the view nears the end of what is shown, so the document grows as far as somebody reads.
-  // Every listing a person may mean to read whole, a script, a braille record, even a few
-  // hundred thousand lines of data, lies under the budget and fills whole on its own.
+  // The lines that the box adds on its own, and again each time a person reads on to the end
+  // of what it shows. The listing of 8 MiB of free space is 8.4 million lines, which took
+  // 4.3 GB in a document filled whole, and a ROM of 32 MiB listed from its start four times
+  // that, more than an ordinary machine has; 500,000 lines take some 90 MB. So past the
+  // budget the box adds another budget's worth only when the view nears the end of what is
+  // shown, and the document grows as far as somebody reads. Every listing a person may mean
+  // to read whole, a script, a braille record, even a few hundred thousand lines of data, lies
+  // under the budget and fills whole on its own.
   static constexpr int kFillBudget = 500000;
 
   explicit LinedTextBoxWidget(QWidget* parent = nullptr);
@@ -117,6 +118,7 @@ class LinedTextBoxWidget : public QPlainTextEdit {
   qsizetype lines_ = 0;                  // in the whole text
   qsizetype linesToCome_ = 0;            // in the text from fillFrom_ on
   int fillBudget_ = kFillBudget;
+  int fillUntil_ = kFillBudget;          // the block count up to which the box fills on its own
   bool adding_ = false;                  // while a part goes into the document
   QTimer* fillTimer_;
   QLabel* notice_;
