@@ -73,6 +73,8 @@ TEST(Form6Test, InsertWritesTheRecordAndItsScriptOrNothing) {
       {"bad script offset", kZero, "A", "&H700000", "&Hxyz", MessageAnswer::Yes, {}, "Script Offset: \"&Hxyz\""},
       {"no pointer", kZero, "A", "&H78000000", "&H700100", MessageAnswer::Yes, {},
        "Braille Offset: The offset &H78000000 cannot be a pointer"},
+      {"record past the end", kZero, "A", "&H7FFFF8", "&H700100", MessageAnswer::Yes, {},
+       "Braille Offset: \"&H7FFFF8\": the braille record, 9 bytes from &H7FFFF8, would run past the end"},
       {"script before the start", kZero, "A", "&H700000", "&HFFFFFFF0", MessageAnswer::Yes, {},
        "Script Offset: \"&HFFFFFFF0\": the script, 8 bytes from -16, would lie before the start of the ROM."},
   };
