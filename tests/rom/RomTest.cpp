@@ -50,8 +50,6 @@ TEST(HexFieldTest, StrictParsesReadOrFailByTheWidthOfTheField) {
   }
   EXPECT_THAT(FailureOf([] { ParseWord("&H10000", "Flag"); }),
               AllOf(HasSubstr("Flag"), HasSubstr("\"&H10000\""), HasSubstr("not a word")));
-  EXPECT_THAT(FailureOf([] { ParseByte("&H100", "Behaviour"); }), HasSubstr("Behaviour: \"&H100\" is not a byte."));
-  EXPECT_THAT(FailureOf([] { ParseOffset("12x", "Offset"); }), HasSubstr("Offset: \"12x\" is not an offset."));
 }
 
 TEST(HexFieldTest, ParseLenientReadsTheLongestNumberAtTheStart) {
@@ -70,7 +68,6 @@ TEST(GbaPointerTest, ConvertsBetweenPointerAndOffsetWithin32Bits) {
     EXPECT_EQ(ToRomOffset(pointer), offset);
     EXPECT_EQ(ToGbaPointer(offset), pointer);
   }
-  EXPECT_EQ(ToHexText(ToRomOffset(0x08160B9B)), "&H160B9B");
   EXPECT_EQ(ToHexText(ToRomOffset(0)), "&HF8000000");  // a null pointer as a person sees it
   for (const std::int32_t pointer : {INT32_MIN, static_cast<std::int32_t>(0x87FFFFFF)}) {
     EXPECT_THAT(FailureOf([&] { ToRomOffset(pointer); }), HasSubstr("does not lead into the ROM"));
@@ -87,25 +84,20 @@ TEST(GbaPointerTest, ConvertsBetweenPointerAndOffsetWithin32Bits) {
 // is read back in UTF-16, apart from our own conversions: a name made in the ANSI code page
 // on Windows shows there as the wrong letters. (The walk of user roads writes in such a folder.)
 TEST(FilePathTest, ARomUnderANameOutsideAsciiOpensUnderThatName) {
-  const struct {
-    std::string folder, file;
-    std::u16string fileInUtf16;
-  } rows[] = {{"Pokémon hacks", "ポケモン rom.gba", u"ポケモン rom.gba"}, {"Ærø  two blanks", "ß é.GBA", u"ß é.GBA"}};
   test::FixtureRom fixture("AXPE", 0x200);
   const std::filesystem::path root = test::TemporaryPath("names");
-  for (const auto& row : rows) {
-    const std::string folder = ToPathText(root) + "/" + row.folder, path = folder + "/" + row.file;
-    std::filesystem::create_directories(ToFilePath(folder));
-    std::filesystem::copy_file(ToFilePath(fixture.path()), ToFilePath(path));
-    const auto listed = std::filesystem::directory_iterator(ToFilePath(folder))->path().filename();
-    EXPECT_EQ(listed.u16string(), row.fileInUtf16) << row.file;
+  const std::string folder = ToPathText(root) + "/Pokémon Ærø  two blanks", path = folder + "/ポケモン ß é.GBA";
+  std::filesystem::create_directories(ToFilePath(folder));
+  std::filesystem::copy_file(ToFilePath(fixture.path()), ToFilePath(path));
+  const auto listed = std::filesystem::directory_iterator(ToFilePath(folder))->path().filename();
+  EXPECT_EQ(listed.u16string(), u"ポケモン ß é.GBA");
 
-    RomImage rom;
-    rom.Open(path);
-    EXPECT_FALSE(rom.IsReadOnly()) << row.file;
-    EXPECT_EQ(rom.romPath(), path);
-    EXPECT_EQ(rom.ReadLong(0xAC), 0x45505841) << row.file;  // "AXPE"
-  }
+  RomImage rom;
+  rom.Open(path);
+  EXPECT_FALSE(rom.IsReadOnly());
+  EXPECT_EQ(rom.romPath(), path);
+  EXPECT_EQ(rom.ReadLong(0xAC), 0x45505841);  // "AXPE"
+  rom.Close();
   std::filesystem::remove_all(root);
 }
 

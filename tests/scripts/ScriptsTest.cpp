@@ -54,8 +54,6 @@ TEST(ListScriptTest, ListsEachCommandAndBrailleCellByItsRules) {
     const char* offset = nullptr;  // the text typed; else `at` in hexadecimal
   };
   const Case cases[] = {
-      {"6A 5A B6 19 00 05 00 00 30 A1 19 00 02",  // the wild battle script
-       "lock \r\nfaceplayer \r\nwildpkmnbattle: &H19 &H5 &H0\r\ncry  &H19\r\nend \r\n"},
       {"0F 64 55 3C 08 02", "msgbox  &H83C5564\r\nend \r\n"},  // two blanks, the pointer, no blank behind
       {"04 16 F3 15 08 02", "call &HF316\r\nend \r\n"},        // the low half only
       {"05 16 00 15 08 02", "goto &H81516\r\nend \r\n"},       // a low half below &H1000 is not padded
@@ -172,23 +170,18 @@ struct Builder {
   Builder() {
     fixture.PutBytes(kS, Bytes(0x100, 0x11)).PutBytes(kT, Bytes(0x10, 0x11));
     rom.Open(fixture.path());
-    for (WildBattleForm* f : {static_cast<WildBattleForm*>(&form3), static_cast<WildBattleForm*>(&form4)}) {
-      f->Combo1.rows.resize(412);
-      f->Combo2.rows.resize(347);
-      SetCombo1Selection(*f, 0x19);
-      f->Text3.text = "&H700000";
-    }
-    SetCombo3Selection(form3, 5);
-    SetCombo3Selection(form4, 5);
-    SetCombo2Selection(form4, 0x8B);
-    form4.Text12.text = "&H7A0000";
-    form5.Combo1.rows.resize(412);
-    form5.Combo2.rows.resize(347);
-    SetCombo1Selection(form5, 0x176);
-    SetCombo3Selection(form5, 5);
-    SetCombo2Selection(form5, 0);
-    form5.Text3.text = "&H700000";
-    form5.Text12.text = "&H7A0000";
+    const auto fill = [](auto& form, int species, int item) {
+      form.Combo1.rows.resize(412);
+      form.Combo2.rows.resize(347);
+      SetCombo1Selection(form, species);
+      SetCombo2Selection(form, item);
+      SetCombo3Selection(form, 5);
+      form.Text3.text = "&H700000";
+    };
+    fill(form3, 0x19, 0);
+    fill(form4, 0x19, 0x8B);
+    fill(form5, 0x176, 0);
+    form4.Text12.text = form5.Text12.text = "&H7A0000";
   }
   std::string At(const ByteOracle& oracle, std::size_t at, std::size_t count) const {
     const Bytes now = oracle.Now();
