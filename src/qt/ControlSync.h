@@ -16,6 +16,19 @@
 
 namespace tessarine {
 
+// A widget under the name of its control, so that tests and tools find it by that name.
+template <typename W>
+W* Named(W* widget, const char* name) {
+  widget->setObjectName(name);
+  return widget;
+}
+
+template <typename W>
+W* Named(W* widget, QWidget* parent, const char* name) {
+  widget->setParent(parent);
+  return Named(widget, name);
+}
+
 inline QString ToQString(const std::string& text) { return QString::fromStdString(text); }
 
 inline void Sync(QLineEdit* widget, const TextBox& box) {

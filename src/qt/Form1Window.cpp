@@ -23,6 +23,7 @@
 #include "events/EventSelection.h"
 #include "events/EventWords.h"
 #include "events/PersonRecord.h"
+#include "qt/ControlSync.h"
 #include "qt/LinedTextBoxWidget.h"
 #include "qt/QtArtwork.h"
 #include "qt/QtListingProgress.h"
@@ -35,12 +36,6 @@ namespace {
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 
-template <typename W>
-W* Named(W* widget, const char* name) {
-  widget->setObjectName(name);
-  return widget;
-}
-
 // Widgets that stand in one place, one over the other; the last one is on top.
 QWidget* OnePlace(QWidget* parent, std::initializer_list<QWidget*> widgets) {
   auto* place = new QWidget(parent);
@@ -49,23 +44,6 @@ QWidget* OnePlace(QWidget* parent, std::initializer_list<QWidget*> widgets) {
   for (QWidget* widget : widgets) stack->addWidget(widget);
   stack->setCurrentWidget(*(widgets.end() - 1));
   return place;
-}
-
-void Sync(QLineEdit* widget, const TextBox& box) {
-  if (widget->text() != Q(box.text)) widget->setText(Q(box.text));
-  widget->setEnabled(box.enabled);
-  widget->setVisible(box.visible);
-}
-
-void Sync(QAbstractButton* widget, const Button& button) {
-  widget->setText(Q(button.caption));
-  widget->setEnabled(button.enabled);
-  widget->setVisible(button.visible);
-}
-
-void Sync(QLabel* widget, const Label& label) {
-  widget->setText(Q(label.caption));
-  widget->setVisible(label.visible);
 }
 
 constexpr int kImageButtonWidth = 76;

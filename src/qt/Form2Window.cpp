@@ -12,17 +12,6 @@
 #include "qt/QtShell.h"
 
 namespace tessarine {
-namespace {
-
-template <typename W>
-W* Named(W* widget, QWidget* parent, const char* name) {
-  widget->setParent(parent);
-  widget->setObjectName(name);
-  return widget;
-}
-
-}  // namespace
-
 Form2Window::Form2Window(QtShell& shell, Form2& form)
     : QWidget(&shell.mainWindow(), Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                        Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),

@@ -13,17 +13,6 @@
 #include "shell/ScriptForms.h"
 
 namespace tessarine {
-namespace {
-
-template <typename W>
-W* Named(W* widget, QWidget* parent, const char* name) {
-  widget->setParent(parent);
-  widget->setObjectName(name);
-  return widget;
-}
-
-}  // namespace
-
 Form5Window::Form5Window(QtShell& shell, Form5& form)
     : QWidget(&shell.mainWindow(), Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                        Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),

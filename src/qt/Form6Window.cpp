@@ -20,6 +20,7 @@
 #include <cstdint>
 
 #include "braille/Form6.h"
+#include "qt/ControlSync.h"
 #include "qt/QtArtwork.h"
 #include "qt/QtPictures.h"
 #include "qt/QtShell.h"
@@ -28,29 +29,6 @@ namespace tessarine {
 namespace {
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
-
-template <typename W>
-W* Named(W* widget, const char* name) {
-  widget->setObjectName(name);
-  return widget;
-}
-
-void Sync(QLineEdit* widget, const TextBox& box) {
-  if (widget->text() != Q(box.text)) widget->setText(Q(box.text));
-  widget->setEnabled(box.enabled);
-  widget->setVisible(box.visible);
-}
-
-void Sync(QPushButton* widget, const Button& button) {
-  widget->setText(Q(button.caption));
-  widget->setEnabled(button.enabled);
-  widget->setVisible(button.visible);
-}
-
-void Sync(QLabel* widget, const Label& label) {
-  widget->setText(Q(label.caption));
-  widget->setVisible(label.visible);
-}
 
 // The text box holds its lines with "\n"; the record with CR LF.
 std::string WithCrLf(const QString& text) { return QString(text).replace('\n', "\r\n").toStdString(); }

@@ -27,12 +27,6 @@ namespace {
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 
-template <typename W>
-W* Named(W* widget, const char* name) {
-  widget->setObjectName(name);
-  return widget;
-}
-
 // The rows never change; what does is the row on show and, with none, the text shown.
 void Sync(QComboBox* widget, const ComboBox& combo) {
   if (widget->count() == 0) {

@@ -13,12 +13,6 @@
 namespace tessarine {
 namespace {
 
-template <typename W>
-W* Named(W* widget, const char* name) {
-  widget->setObjectName(name);
-  return widget;
-}
-
 constexpr int kNumberWidth = 100;
 
 }  // namespace
