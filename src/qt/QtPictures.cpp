@@ -31,6 +31,21 @@ bool HoldsItsPixels(QIODevice& device) {
   return device.size() >= field(10, 4) + (width * bits + 31) / 32 * 4 * qAbs(height);
 }
 
+// Whether the file holds its picture to its end, as far as its kind shows: Qt decodes a GIF
+// or a JPEG cut short with a warning at most, and fills what is missing. A JPEG ends its last
+// scan with the end-of-image marker (no scan holds an FF that is not stuffed or a restart, so
+// a marker found after the last scan's start is the file's own); a GIF ends with its trailer.
+bool EndsWhole(QIODevice& device, const QByteArray& format) {
+  if (format == "bmp") return HoldsItsPixels(device);
+  if (format != "jpeg" && format != "gif") return true;
+  const qint64 position = device.pos();
+  device.seek(0);
+  const QByteArray bytes = device.readAll();
+  device.seek(position);
+  if (format == "gif") return bytes.endsWith(';');
+  return bytes.lastIndexOf(QByteArrayView("\xFF\xD9", 2)) > bytes.lastIndexOf(QByteArrayView("\xFF\xDA", 2));
+}
+
 PictureFile ReadBounded(QImageReader& reader, const QString& name) {
   reader.setAutoTransform(false);
   reader.setDecideFormatFromContent(true);
@@ -51,8 +66,8 @@ PictureFile ReadBounded(QImageReader& reader, const QString& name) {
                     .arg(kMaxPictureSide)
                     .arg(kMaxPicturePixels)};
   }
-  if (reader.format() == "bmp" && !HoldsItsPixels(*reader.device())) {
-    return {{}, "\"" + name + "\" is cut short: it ends before the last row of its picture, so it was not read."};
+  if (!EndsWhole(*reader.device(), reader.format())) {
+    return {{}, "\"" + name + "\" is cut short: it ends before the end of its picture, so it was not read."};
   }
   QImage image = reader.read();
   if (image.isNull()) {
