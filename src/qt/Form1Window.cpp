@@ -267,7 +267,7 @@ void Form1Window::Connect() {
     PopUpToolsMenu(at);
     Image4_->setDown(false);
   });
-  connect(Image5_, &QAbstractButton::clicked, this, [this] { shell_.ShowWindow(WindowName::frmAbout); });
+  connect(Image5_, &QAbstractButton::clicked, this, [this] { shell_.Run([this] { shell_.ShowWindow(WindowName::frmAbout); }); });
 
   connect(Combo3_, &QComboBox::activated, this,
           [this](int i) { shell_.Run([this, i] { SetCombo3Selection(shell_.form1(), shell_.rom(), shell_.dialogs(), i); }); });

@@ -46,6 +46,9 @@ namespace {
 constexpr const char* kNoMemory =
     "The action needed more memory than the system could give, so it stopped there. Whatever it wrote to the "
     "ROM before stays written.";
+constexpr const char* kNotShown =
+    "The action ended, but the windows could not show what it did for want of memory: what they show may be "
+    "out of date until the next action.";
 
 // Runs an action to its end, or to the sentence that ends it. Nothing an action throws gets
 // past this: an exception must never cross Qt's event loop.
@@ -75,7 +78,9 @@ void QtShell::Run(const std::function<void()>& action) {
   if (const auto sentence = SentenceThatEnds(action)) dialogs_.Message(*sentence, MessageButtons::Ok, kDefaultTitle);
   if (!outermost) return;
   running_ = false;
-  RefreshAll();
+  if (SentenceThatEnds([this] { RefreshAll(); })) {  // the action has ended; only its showing did not
+    dialogs_.Message(kNotShown, MessageButtons::Ok, kDefaultTitle);
+  }
 }
 
 void QtShell::RefreshAll() {
