@@ -304,21 +304,6 @@ void Form1Window::Connect() {
   connect(Check1_, &QCheckBox::toggled, this, [&f](bool checked) { f.Check1.checked = checked; });
 }
 
-void Form1Window::SyncCombo(QComboBox* widget, const ComboBox& combo, std::vector<std::string>& shownRows) {
-  if (shownRows != combo.rows) {
-    widget->clear();
-    QStringList rows;
-    rows.reserve(static_cast<qsizetype>(combo.rows.size()));
-    for (const std::string& row : combo.rows) rows << Q(row);
-    widget->addItems(rows);
-    shownRows = combo.rows;
-  }
-  if (widget->currentIndex() != combo.selected) widget->setCurrentIndex(combo.selected);
-  if (widget->isEditable() && widget->currentText() != Q(combo.text)) widget->setEditText(Q(combo.text));
-  widget->setEnabled(combo.enabled);
-  widget->setVisible(combo.visible);
-}
-
 void Form1Window::Refresh() {
   const Form1& f = shell_.form1();
   // The controls whose changes run actions stay quiet while they take the record's values.
@@ -331,8 +316,8 @@ void Form1Window::Refresh() {
   Sync(Image3_->label(), f.Label15);
   Sync(Image4_->label(), f.Label16);
   Sync(Image5_->label(), f.Label17);
-  SyncCombo(Combo3_, f.Combo3, shownCombo3_);
-  SyncCombo(Combo4_, f.Combo4, shownCombo4_);
+  combo3_(Combo3_, f.Combo3);
+  combo4_(Combo4_, f.Combo4);
   Sync(Command10_, f.Command10);
   Sync(Command9_, f.Command9);
   Sync(Label6_, f.Label6);
@@ -344,9 +329,9 @@ void Form1Window::Refresh() {
   Sync(Label9_, f.Label9);
   Sync(flagtxt_, f.flagtxt);
   Sync(Label7_, f.Label7);
-  SyncCombo(Combo2_, f.Combo2, shownCombo2_);
+  combo2_(Combo2_, f.Combo2);
   Sync(Label13_, f.Label13);
-  SyncCombo(Combo1_, f.Combo1, shownCombo1_);
+  combo1_(Combo1_, f.Combo1);
   Sync(Text1_, f.Text1);
   Sync(hoobla_, f.hoobla);
   Sync(Label12_, f.Label12);

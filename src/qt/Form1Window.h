@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "qt/ControlSync.h"
+
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -17,7 +19,6 @@ namespace tessarine {
 
 class LinedTextBoxWidget;
 class QtShell;
-struct ComboBox;
 
 // One of the three picture buttons along the top of the main window: a face picture with
 // a caption label on it. Pressed, it shows the pressed face (idown). It takes the
@@ -66,7 +67,6 @@ class Form1Window : public QWidget {
  private:
   void BuildWidgets();
   void Connect();
-  void SyncCombo(QComboBox* widget, const ComboBox& combo, std::vector<std::string>& shownRows);
 
   QtShell& shell_;
   QPixmap background_;
@@ -106,7 +106,7 @@ class Form1Window : public QWidget {
   LinedTextBoxWidget* Text4_;
 
   // What the widgets were last given, so that a refresh touches only what changed.
-  std::vector<std::string> shownCombo1_, shownCombo2_, shownCombo3_, shownCombo4_;
+  ComboSync combo1_, combo2_, combo3_, combo4_;
   unsigned shownText4Puts_ = 0;
 };
 

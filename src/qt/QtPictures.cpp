@@ -31,19 +31,122 @@ bool HoldsItsPixels(QIODevice& device) {
   return device.size() >= field(10, 4) + (width * bits + 31) / 32 * 4 * qAbs(height);
 }
 
-// Whether the file holds its picture to its end, as far as its kind shows: Qt decodes a GIF
-// or a JPEG cut short with a warning at most, and fills what is missing. A JPEG ends its last
-// scan with the end-of-image marker (no scan holds an FF that is not stuffed or a restart, so
-// a marker found after the last scan's start is the file's own); a GIF ends with its trailer.
+// The bytes of a file from its start, a block at a time, so that no file is held whole.
+class ByteStream {
+ public:
+  explicit ByteStream(QIODevice& device) : device_(device) { device_.seek(0); }
+
+  // The next byte, or -1 at the end of the file.
+  int Next() {
+    if (at_ == buffer_.size()) {
+      base_ += buffer_.size();
+      buffer_ = device_.read(kBlock);
+      at_ = 0;
+      if (buffer_.isEmpty()) return -1;
+    }
+    return static_cast<quint8>(buffer_[at_++]);
+  }
+
+  // Passes over `count` bytes; false when the file ends before them.
+  bool Skip(qint64 count) {
+    const qint64 target = base_ + at_ + count;
+    if (target <= base_ + buffer_.size()) {
+      at_ = static_cast<qsizetype>(target - base_);
+      return true;
+    }
+    if (target > device_.size() || !device_.seek(target)) return false;
+    base_ = target;
+    buffer_.clear();
+    at_ = 0;
+    return true;
+  }
+
+ private:
+  static constexpr qint64 kBlock = 1 << 16;
+  QIODevice& device_;
+  QByteArray buffer_;
+  qint64 base_ = 0;  // where buffer_ starts in the file
+  qsizetype at_ = 0;
+};
+
+// The next marker of a JPEG: the byte behind an FF that is neither a fill FF, a stuffed 00
+// nor a restart marker, so that the data of a scan is passed over; -1 at the end of the file.
+int NextJpegMarker(ByteStream& in) {
+  for (;;) {
+    int byte = in.Next();
+    while (byte != 0xFF) {
+      if (byte < 0) return -1;
+      byte = in.Next();
+    }
+    int marker = in.Next();
+    while (marker == 0xFF) marker = in.Next();
+    if (marker != 0x00 && (marker < 0xD0 || marker > 0xD7)) return marker;
+  }
+}
+
+// A JPEG is whole when its segments and scans run on to its end-of-image marker; what lies
+// behind that marker (a camera's own data, another picture) is not the picture's. Segments
+// are passed over by their lengths, so a thumbnail inside one is never taken for the picture.
+bool JpegEndsWhole(ByteStream& in) {
+  if (in.Next() != 0xFF || in.Next() != 0xD8) return true;  // not a JPEG's start: the decoder says so
+  for (;;) {
+    const int marker = NextJpegMarker(in);
+    if (marker < 0) return false;
+    if (marker == 0xD9) return true;
+    if (marker == 0x01) continue;  // the one marker besides the restarts with no length
+    const int high = in.Next(), low = in.Next();
+    if (low < 0 || (high << 8 | low) < 2 || !in.Skip((high << 8 | low) - 2)) return false;
+  }
+}
+
+// The sub-blocks of a GIF's extension or picture, up to the empty one that ends them.
+bool SkipGifSubBlocks(ByteStream& in) {
+  for (;;) {
+    const int size = in.Next();
+    if (size <= 0) return size == 0;
+    if (!in.Skip(size)) return false;
+  }
+}
+
+// Passes over a colour table, if the flags of its screen or picture say there is one.
+bool SkipGifColourTable(ByteStream& in, int flags) { return (flags & 0x80) == 0 || in.Skip(3 << ((flags & 7) + 1)); }
+
+// A GIF's first picture, the one the decoder reads, is whole when the sub-blocks of its
+// data run on to their end; the extensions before it are passed over by their sizes, and
+// what comes behind it (more frames, the trailer) is not read.
+bool GifEndsWhole(ByteStream& in) {
+  if (!in.Skip(10)) return false;  // the signature and the screen's width and height
+  const int flags = in.Next();
+  if (flags < 0 || !in.Skip(2) || !SkipGifColourTable(in, flags)) return false;
+  for (;;) {
+    switch (in.Next()) {
+      case 0x21:  // an extension: its label, then its sub-blocks
+        if (in.Next() < 0 || !SkipGifSubBlocks(in)) return false;
+        break;
+      case 0x2C: {  // the picture: where and how large, its flags, its colours, its code size, its data
+        if (!in.Skip(8)) return false;
+        const int pictureFlags = in.Next();
+        return pictureFlags >= 0 && SkipGifColourTable(in, pictureFlags) && in.Skip(1) && SkipGifSubBlocks(in);
+      }
+      case -1:
+        return false;
+      default:  // the trailer before any picture, or a byte that is no block: the decoder refuses it
+        return true;
+    }
+  }
+}
+
+// Whether the file holds its picture to its end, as far as its kind shows: Qt decodes a BMP,
+// GIF or JPEG cut short with a warning at most, and fills what is missing. The file is read
+// a block at a time and left where it was.
 bool EndsWhole(QIODevice& device, const QByteArray& format) {
   if (format == "bmp") return HoldsItsPixels(device);
   if (format != "jpeg" && format != "gif") return true;
   const qint64 position = device.pos();
-  device.seek(0);
-  const QByteArray bytes = device.readAll();
+  ByteStream in(device);
+  const bool whole = format == "gif" ? GifEndsWhole(in) : JpegEndsWhole(in);
   device.seek(position);
-  if (format == "gif") return bytes.endsWith(';');
-  return bytes.lastIndexOf(QByteArrayView("\xFF\xD9", 2)) > bytes.lastIndexOf(QByteArrayView("\xFF\xDA", 2));
+  return whole;
 }
 
 PictureFile ReadBounded(QImageReader& reader, const QString& name) {

@@ -24,7 +24,8 @@ QByteArray Fields(std::initializer_list<std::pair<quint32, int>> fields) {
 // Picture files that the braille inserter and Wingfall may be given, made here: three whose
 // header claims a picture of 9000 by 9000 or 65535 by 65535 pixels, a BMP, a JPEG and a GIF
 // cut off before their end, and random bytes. Each is refused with a sentence, never decoded into a picture;
-// whole ones are read, also a BMP of a single pixel in the old, short header (30 bytes in all).
+// whole ones are read, also a BMP of a single pixel in the old, short header (30 bytes in all),
+// and a JPEG and a GIF followed by bytes of something else.
 TEST(PictureFilesTest, AHugeCutOrMeaninglessPictureIsRefusedFromItsHeader) {
   QByteArray cut;
   QBuffer buffer(&cut);
@@ -35,7 +36,7 @@ TEST(PictureFilesTest, AHugeCutOrMeaninglessPictureIsRefusedFromItsHeader) {
   QByteArray hugeJpeg;  // a whole JPEG whose frame header then claims 60000 by 60000 pixels
   QBuffer jpegBuffer(&hugeJpeg);
   picture.save(&jpegBuffer, "JPG");
-  const QByteArray cutJpeg = hugeJpeg.left(hugeJpeg.size() - 4);
+  const QByteArray cutJpeg = hugeJpeg.left(hugeJpeg.size() - 4), wholeJpeg = hugeJpeg;
   hugeJpeg.replace(hugeJpeg.indexOf("\xFF\xC0") + 5, 4, QByteArray::fromHex("EA60EA60"));
   cut.truncate(cut.size() / 2);
   // A GIF of one pixel in a palette of two colours, whole.
@@ -57,7 +58,11 @@ TEST(PictureFilesTest, AHugeCutOrMeaninglessPictureIsRefusedFromItsHeader) {
       {"cut.bmp", cut, "\"cut.bmp\" is cut short"},
       {"cut.jpg", cutJpeg, "\"cut.jpg\" is cut short"},
       {"cut.gif", dot.left(dot.size() - 3), "\"cut.gif\" is cut short"},
-      {"dot.gif", dot, ""},
+      {"cut4.gif", "GIF89a" + Fields({{4, 2}, {4, 2}, {0x80, 1}, {0, 2}, {0xFFFFFF, 6}}) + "," +  // ends in the
+                       Fields({{0, 4}, {4, 2}, {4, 2}, {0, 1}}) + Fields({{2, 1}, {0x4C01, 2}}) + ";",  // size of a block
+       "\"cut4.gif\" is cut short"},
+      {"dot.gif", dot + "\n", ""},
+      {"more.jpg", wholeJpeg + QByteArray::fromHex("FFDA0008"), ""},
       {"noise.gif", noise, "\"noise.gif\" is no picture"},
       {"whole.bmp", whole, ""},  // and the BMP before it was cut is read
       {"dot.bmp", "BM" + Fields({{30, 4}, {0, 4}, {26, 4}, {12, 4}, {1, 2}, {1, 2}, {1, 2}, {24, 2}, {0xFF, 4}}), ""},
