@@ -40,9 +40,7 @@ class FieldWriter {
 
   template <typename T>
   void operator()(T field) {
-    std::uint8_t bytes[sizeof(T)];
-    PutLittleEndian(static_cast<std::make_unsigned_t<T>>(field), bytes);
-    bytes_.insert(bytes_.end(), std::begin(bytes), std::end(bytes));
+    AppendLittleEndian(bytes_, static_cast<std::make_unsigned_t<T>>(field), sizeof(T));
   }
 
  private:

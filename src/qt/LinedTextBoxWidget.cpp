@@ -176,8 +176,8 @@ void LinedTextBoxWidget::AddAtEnd(const QString& part) {
   horizontalScrollBar()->setValue(left);
 }
 
-// The box goes on adding parts on its own up to the budget, and past it while the view is
-// within a page of the end of what is shown.
+// The box goes on adding parts on its own up to the budget, and another budget's worth each
+// time the view comes within a page of the end of what is shown.
 void LinedTextBoxWidget::PaceFilling() {
   const QScrollBar* bar = verticalScrollBar();
   if (bar->maximum() - bar->value() <= bar->pageStep()) {  // near the end: another budget's worth
@@ -185,11 +185,10 @@ void LinedTextBoxWidget::PaceFilling() {
   }
   if (document()->blockCount() < fillUntil_) {
     fillTimer_->start();
-    SayWhatIsToCome(tr("%1 lines shown; %2 more are being added.").arg(Count(lines_ - linesToCome_), Count(linesToCome_)));
+    SayWhatIsToCome(WithCounts(tr("%1 lines shown; %2 more are being added.")));
   } else {
     fillTimer_->stop();
-    SayWhatIsToCome(tr("%1 lines shown; %2 more come as you scroll to the end.")
-                        .arg(Count(lines_ - linesToCome_), Count(linesToCome_)));
+    SayWhatIsToCome(WithCounts(tr("%1 lines shown; %2 more come as you scroll to the end.")));
   }
 }
 
@@ -223,11 +222,15 @@ void LinedTextBoxWidget::StopForWantOfMemory() {
   source_ = nullptr;
   try {
     document()->setUndoRedoEnabled(true);
-    SayWhatIsToCome(tr("Out of memory: %1 lines shown; the other %2 could not be added.")
-                        .arg(Count(lines_ - linesToCome_), Count(linesToCome_)));
+    SayWhatIsToCome(WithCounts(tr("Out of memory: %1 lines shown; the other %2 could not be added.")));
   } catch (const std::bad_alloc&) {
     notice_->setVisible(false);  // the box as it is, the filling stopped, and nothing more to be done
   }
+}
+
+// A sentence with the lines in the box for %1 and those of the text not in it for %2.
+QString LinedTextBoxWidget::WithCounts(const QString& sentence) const {
+  return sentence.arg(Count(lines_ - linesToCome_), Count(linesToCome_));
 }
 
 // The line under the text, with room made for it; none for an empty sentence.

@@ -104,6 +104,7 @@ class LinedTextBoxWidget : public QPlainTextEdit {
   void CompleteFilling();
   void StopForWantOfMemory();
   void SayWhatIsToCome(const QString& sentence);
+  QString WithCounts(const QString& sentence) const;
 
   QWidget* gutter_;  // a GutterArea
   bool on_ = false;

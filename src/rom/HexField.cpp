@@ -22,8 +22,9 @@ struct HexRun {
 
 HexRun ReadHexRun(std::string_view s) {
   HexRun run;
-  while (run.length < s.size() && HexDigitValue(static_cast<unsigned char>(s[run.length])) >= 0) {
-    const int digit = HexDigitValue(static_cast<unsigned char>(s[run.length++]));
+  for (; run.length < s.size(); ++run.length) {
+    const int digit = HexDigitValue(static_cast<unsigned char>(s[run.length]));
+    if (digit < 0) break;
     if (run.significant > 0 || digit != 0) ++run.significant;
     run.value = (run.value << 4) | static_cast<std::uint32_t>(digit);
   }
