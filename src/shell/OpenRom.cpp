@@ -44,18 +44,19 @@ void ApplyProfile(Form1& form, const GameProfile& profile) {
   form.regi3 = profile.regi3;
 }
 
-}  // namespace
-
-void OpenRom(Form1& form, RomImage& rom, Dialogs& dialogs) {
+// Steps 1 and 2 of every open: no list, no file, and nothing read before belongs to the ROM
+// that comes.
+void CloseRom(Form1& form, RomImage& rom) {
   form.Combo1.Clear();
   rom.Close();
   // From here on, what was read from the file before belongs to no open ROM: the tools read
   // again, and the event fields wait for an event to be picked.
   ++form.romOpenings;
   form.eventFieldsMatchRom = false;
-  const std::string path = dialogs.OpenFile("Open", "Pokemon Advance rom|*.gba");
-  if (path.empty()) return;
+}
 
+// The steps after the file dialog, on the file it gave.
+void OpenRomFile(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string& path) {
   // From here each step runs whatever the one before it did; what went wrong is told.
   try {
     rom.Open(path);
@@ -95,6 +96,20 @@ void OpenRom(Form1& form, RomImage& rom, Dialogs& dialogs) {
   form.Command10.enabled = false;
   form.Command9.enabled = false;
   form.Command6.enabled = false;
+}
+
+}  // namespace
+
+void OpenRom(Form1& form, RomImage& rom, Dialogs& dialogs) {
+  CloseRom(form, rom);
+  const std::string path = dialogs.OpenFile("Open", "Pokemon Advance rom|*.gba");
+  if (path.empty()) return;
+  OpenRomFile(form, rom, dialogs, path);
+}
+
+void OpenRomAt(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string& path) {
+  CloseRom(form, rom);
+  OpenRomFile(form, rom, dialogs, path);
 }
 
 }  // namespace tessarine

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace tessarine {
 
 struct Form1;
@@ -11,5 +13,9 @@ class Dialogs;
 // family and fills the species list. An unknown code hides the main window and shows the
 // Unsupported ROM dialog. A step that fails is told to the person and the next one runs.
 void OpenRom(Form1& form, RomImage& rom, Dialogs& dialogs);
+
+// The same open with the file already chosen (a file dropped on the window): the list is
+// cleared and the file closed, then the steps after the dialog run on `path`.
+void OpenRomAt(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string& path);
 
 }  // namespace tessarine
