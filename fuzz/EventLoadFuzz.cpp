@@ -1,7 +1,6 @@
 // Picking an event on a fixture ROM whose person record, and the bytes where its script
 // pointer leads, come from the input: the load runs through or fails with a sentence, and
 // where it runs through, the fields show the record's sprite and flag.
-#include <array>
 #include <memory>
 
 #include "FuzzInput.h"
@@ -19,10 +18,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<test::FixtureEvent> events;
     test::MainSession session;
   };
-  static std::unique_ptr<Game> games[4];
+  static std::vector<std::unique_ptr<Game>> games(test::AllGames().size());
   fuzz::Input in{{data, size}};
-  const std::uint32_t which = in.Number(1) % 4;
-  const std::string_view code = std::array{"AXVE", "AXPE", "BPRE", "BPGE"}[which];
+  const std::uint32_t which = in.Number(1) % games.size();
+  const GameIdentity& code = test::AllGames()[which];
   if (!games[which]) {
     games[which].reset(new Game{test::EventFixtureRom(code), test::FixtureEvents(code)});
     games[which]->session.Open(games[which]->fixture.path());

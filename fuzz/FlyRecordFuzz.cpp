@@ -3,13 +3,23 @@
 // the record at most, and a save that fails changes nothing.
 #include "FuzzInput.h"
 #include "flyland/FlyRecords.h"
+#include "forms/Form1.h"
 #include "rom/Failure.h"
 #include "rom/RomImage.h"
+#include "support/EventFixtures.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace tessarine;
+  static const std::vector<GameIdentity> games = [] {
+    std::vector<GameIdentity> all = test::AllGames();
+    all.push_back({"BPEJ", 0});
+    return all;
+  }();
   fuzz::Input in{{data, size}};
-  const FlyTable& table = kFlyTables[in.Number(1) % kFlyTables.size()];
+  Form1 main;
+  main.headtxt = games[in.Number(1) % games.size()].code;
+  main.revision = games[in.Number(1) % games.size()].revision;  // maybe of another game: no table
+  const FlyTable table = FindFlyTable(IdentityOf(main)).value_or(FlyTable{FlyList::hoenn, 0x3E5A2E});
   const int index = static_cast<int>(in.Number(1) % (kFlyRecordCount + 2));  // two that are no record
   const std::int64_t at = table.base + std::int64_t{kFlyRecordSize} * index;
   const std::int64_t length = at + static_cast<std::int8_t>(in.Number(1));  // ends before, in or behind it
@@ -19,11 +29,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   RomImage rom;
   rom.Open(fuzz::ScratchRom(length, at, record));
+  if (length > kRevisionOffset) {  // the header names the game, as far as the file holds it
+    rom.WriteBytes(kGameCodeOffset, Bytes(main.headtxt.begin(), main.headtxt.end()));
+    rom.WriteByte(kRevisionOffset, static_cast<std::uint8_t>(main.revision));
+  }
+  FilledAt filled;
+  filled.Fill(main);
   const auto inFile = [&] { return at < length ? rom.ReadBytes(static_cast<RomOffset>(at), kFlyRecordSize) : Bytes{}; };
   const Bytes before = inFile();
   try {
-    ReadFlyRecord(rom, table.code, index);
-    WriteFlyPosition(rom, table.code, index, x, y);
+    ReadFlyRecord(rom, IdentityOf(main), index);
+    WriteFlyPosition(rom, main, filled, index, x, y);
     Bytes after = inFile();
     fuzz::Require(after.size() == kFlyRecordSize, "a save is of a whole record");
     after[4] = before[4];

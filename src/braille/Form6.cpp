@@ -5,7 +5,7 @@
 
 #include "braille/BrailleRecord.h"
 #include "forms/Dialogs.h"
-#include "forms/InsertPlace.h"
+#include "forms/WriteRule.h"
 #include "rom/Failure.h"
 #include "rom/HexField.h"
 #include "rom/RomImage.h"
@@ -37,33 +37,25 @@ std::string FieldName(const Label& label) {
   return name;
 }
 
-struct Insertion {
+// Everything Insert writes, parsed and made, as the pieces of one write.
+void PlanInsertion(const Form6& form, RomWrite& write) {
   BrailleHeader header{};
-  RomOffset brailleOffset = 0;
-  RomOffset scriptOffset = 0;
-};
-
-// Everything Insert needs, parsed and checked, before it writes.
-Insertion PlanInsertion(const Form6& form, RomImage& rom) {
-  Insertion plan;
   for (std::size_t i = 0; i < kHeaderFields.size(); ++i) {
-    plan.header[i] = ParseByte((form.*kHeaderFields[i].box).text, FieldName(form.*kHeaderFields[i].label));
+    header[i] = ParseByte((form.*kHeaderFields[i].box).text, FieldName(form.*kHeaderFields[i].label));
   }
   const std::string brailleField = FieldName(form.Label8);
   const std::string scriptField = FieldName(form.Label11);
-  plan.brailleOffset = ParseOffset(form.Text2.text, brailleField);
-  plan.scriptOffset = ParseOffset(form.Text3.text, scriptField);
+  const RomOffset brailleOffset = ParseInsertOffset(form.Text2.text, brailleField);
+  const RomOffset scriptOffset = ParseInsertOffset(form.Text3.text, scriptField);
   Bytes script;
   try {
-    script = BrailleScriptBytes(plan.brailleOffset);
+    script = BrailleScriptBytes(brailleOffset);
   } catch (const Failure& failure) {
     throw Failure(brailleField + ": " + failure.what());
   }
-  const auto recordSize = static_cast<std::int64_t>(BrailleRecordBytes(plan.header, form.Text1.text).size());
-  RequireInsideRom(rom, plan.brailleOffset, recordSize, "the braille record", brailleField, form.Text2.text);
-  RequireInsideRom(rom, plan.scriptOffset, static_cast<std::int64_t>(script.size()), "the script", scriptField,
-                   form.Text3.text);
-  return plan;
+  write.Add({"the braille record", brailleOffset, BrailleRecordBytes(header, form.Text1.text), brailleField,
+             form.Text2.text});
+  write.Add({"its script", scriptOffset, std::move(script), scriptField, form.Text3.text});
 }
 
 std::string DoubledLineBreaks(std::string_view text) {
@@ -82,27 +74,23 @@ std::string DoubledLineBreaks(std::string_view text) {
 
 }  // namespace
 
-void PressInsert(Form6& form, RomImage& rom, Dialogs& dialogs) {
+void PressInsert(Form6& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
   if (dialogs.Message("Are you sure that you wan't to insert?", MessageButtons::YesNo, "Braille Inserted.") !=
       MessageAnswer::Yes) {
     return;
   }
-  Insertion plan;
+  RomWrite write(rom, main);
+  write.From(form.filled, FilledBeforeLastOpen("Press \"Load\" to read the record at the Braille Offset from the "
+                                               "ROM that is open now, or close the window and open it again."));
   try {
-    plan = PlanInsertion(form, rom);
-    WriteBrailleRecord(rom, plan.brailleOffset, plan.header, form.Text1.text);
+    PlanInsertion(form, write);
   } catch (const Failure& failure) {
-    throw failure.Then("Nothing was inserted.");
+    throw write.Stopped(failure);
   }
-  try {
-    WriteBrailleScript(rom, plan.scriptOffset, plan.brailleOffset);
-  } catch (const Failure& failure) {
-    throw failure.Then("The braille record was written at " + ToHexText(plan.brailleOffset) +
-                       "; its script was not.");
-  }
+  write.CheckAndWrite();
 }
 
-void PressLoad(Form6& form, RomImage& rom) {
+void PressLoad(Form6& form, const Form1& main, RomImage& rom) {
   PressRestore(form);
   BrailleRecord record;
   try {
@@ -117,6 +105,7 @@ void PressLoad(Form6& form, RomImage& rom) {
   SetBrailleLeft(form, ToHexText(record.header[4]));
   SetBrailleTop(form, ToHexText(record.header[5]));
   SetText1(form, std::move(record.text));
+  form.filled.Fill(main);
   PressApply(form);
 }
 

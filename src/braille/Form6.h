@@ -5,6 +5,7 @@
 
 #include "braille/BraillePreview.h"
 #include "forms/Controls.h"
+#include "forms/Form1.h"
 
 namespace tessarine {
 
@@ -67,16 +68,21 @@ struct Form6 {
   PictureBox Picture1;
   Shape Shape1;
   PlacedLabel Label1;
+
+  // The Open ROM after which the window opened or last loaded a record.
+  FilledAt filled;
 };
 
 // Insert: asks, and on Yes writes the record (the six header fields, Text1's cells, 0xFF 0x00)
-// at Text2 and its script at Text3. Every field is parsed, the pointer made and both blocks
-// found inside the file before the first write: a Failure there writes nothing.
-void PressInsert(Form6& form, RomImage& rom, Dialogs& dialogs);
+// at Text2 and its script at Text3. Every field is parsed, the pointer made, and both blocks
+// passed by the write rule (forms/WriteRule.h: inside the file, out of the cartridge header,
+// from a window of the ROM that is open) before the first write: a Failure there writes
+// nothing.
+void PressInsert(Form6& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
 
 // Load: Restore, then the record at Text2 into the six fields and Text1, then Apply. An
 // offset that does not parse fails with the fields as they were.
-void PressLoad(Form6& form, RomImage& rom);
+void PressLoad(Form6& form, const Form1& main, RomImage& rom);
 
 // Apply: Restore, then the frame and the text where PreviewLayout puts them, as far as it gets.
 void PressApply(Form6& form);

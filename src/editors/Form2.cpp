@@ -2,25 +2,14 @@
 
 #include "forms/Dialogs.h"
 #include "forms/Form1.h"
-#include "forms/InsertPlace.h"
 #include "forms/ListRows.h"
+#include "forms/WriteRule.h"
 #include "rom/Failure.h"
 #include "rom/HexField.h"
 #include "rom/RomImage.h"
 
 namespace tessarine {
 namespace {
-
-struct StarterTable {
-  std::string_view code;
-  StarterOffsets balls;
-};
-
-constexpr StarterTable kStarters[] = {
-    {"AXVE", {0x3F76C4, 0x3F76C6, 0x3F76C8}}, {"AXPE", {0x3F771C, 0x3F771E, 0x3F7720}},
-    {"BPRE", {0x169BB5, 0x169D82, 0x169DB8}}, {"BPGE", {0x169B91, 0x169D5E, 0x169D94}},
-    {"BPEJ", {0x590C08, 0x590C0A, 0x590C0C}},
-};
 
 constexpr int kBallCount = 3;
 
@@ -35,7 +24,9 @@ constexpr Ball kBalls[kBallCount] = {{"Ball 1", &Form2::Combo1, &Form2::Text1, &
                                      {"Ball 2", &Form2::Combo2, &Form2::Text2, &Form2::balltxt2},
                                      {"Ball 3", &Form2::Combo3, &Form2::Text3, &Form2::balltxt3}};
 
-bool SideBySide(const StarterOffsets& balls) { return balls[1] == balls[0] + 2 && balls[2] == balls[1] + 2; }
+bool SideBySide(const std::array<RomOffset, 3>& balls) {
+  return balls[1] == balls[0] + 2 && balls[2] == balls[1] + 2;
+}
 
 void Choose(Form2& form, const Ball& ball, int index) {
   if (!(form.*ball.list).Show(index)) return;
@@ -46,47 +37,48 @@ void Choose(Form2& form, const Ball& ball, int index) {
 
 }  // namespace
 
-std::optional<StarterOffsets> FindStarterOffsets(std::string_view gameCode) {
-  for (const StarterTable& game : kStarters) {
-    if (game.code == gameCode) return game.balls;
+std::optional<Starters> ReadStarters(RomImage& rom, const GameIdentity& game) {
+  const GameProfile* profile = FindGameProfile(game);
+  if (profile == nullptr) return std::nullopt;
+  const auto& balls = profile->starters;
+  for (int i = 0; i < kBallCount; ++i) {
+    if (!rom.Holds(balls[i], 2)) {
+      throw Failure("The starters of this game lie at " + ToHexText(balls[0]) + ", " + ToHexText(balls[1]) + " and " +
+                    ToHexText(balls[2]) + ", past the end of the file, which is " +
+                    ToHexText(static_cast<RomOffset>(std::min<std::int64_t>(rom.Length(), INT32_MAX))) +
+                    " bytes long. No starter was read.");
+    }
   }
-  return std::nullopt;
-}
-
-std::optional<Starters> ReadStarters(RomImage& rom, std::string_view gameCode) {
-  const auto balls = FindStarterOffsets(gameCode);
-  if (!balls) return std::nullopt;
   Starters starters{};
-  if (SideBySide(*balls)) {  // one table: one Seek, three reads in a row
-    rom.Seek((*balls)[0]);
+  if (SideBySide(balls)) {  // one table: one Seek, three reads in a row
+    rom.Seek(balls[0]);
     for (std::int16_t& starter : starters) starter = rom.ReadWord();
   } else {
-    for (int i = 0; i < kBallCount; ++i) starters[i] = rom.ReadWord((*balls)[i]);
+    for (int i = 0; i < kBallCount; ++i) starters[i] = rom.ReadWord(balls[i]);
   }
   return starters;
 }
 
-void WriteStarters(RomImage& rom, std::string_view gameCode, std::int16_t ball1, std::int16_t ball2,
-                   std::int16_t ball3) {
-  const auto balls = FindStarterOffsets(gameCode);
-  if (!balls) return;
-  try {
-    for (int i = 0; i < kBallCount; ++i) {
-      RequireInsideRom(rom, (*balls)[i], 2, "its species", kBalls[i].name, ToHexText((*balls)[i]));
-    }
-  } catch (const Failure& failure) {
-    throw failure.Then("No starter was written.");
-  }
-  const Starters values{ball1, ball2, ball3};
-  for (int i = 0; i < kBallCount; ++i) rom.WriteWord((*balls)[i], values[i]);
-}
-
 void LoadForm2(Form2& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
-  if (!FindStarterOffsets(main.headtxt)) return;
-  // Read first: a read that fails (no ROM open) leaves the form as it stood.
-  const Starters starters = *ReadStarters(rom, main.headtxt);
+  if (FindGameProfile(IdentityOf(main)) == nullptr) return;
   std::vector<std::string> rows(kSpeciesCount);
   for (std::size_t i = 0; i < rows.size() && i < main.Combo1.rows.size(); ++i) rows[i] = main.Combo1.rows[i];
+  // Read first: a read that fails for want of a ROM leaves the form as it stood.
+  Starters starters{};
+  try {
+    starters = *ReadStarters(rom, IdentityOf(main));
+  } catch (const Failure&) {
+    if (!rom.IsOpen()) throw;
+    // A file too short for the starters: the lists show no value of it.
+    for (const Ball& ball : kBalls) {
+      (form.*ball.list).Clear();
+      (form.*ball.list).rows = rows;
+      (form.*ball.read).text = Form2{}.Text1.text;
+      (form.*ball.save).text = Form2{}.balltxt.text;
+    }
+    form.filled.Fill(main);
+    throw;
+  }
   for (const Ball& ball : kBalls) {
     (form.*ball.list).Clear();
     (form.*ball.list).rows = rows;
@@ -107,7 +99,7 @@ void LoadForm2(Form2& form, const Form1& main, RomImage& rom, Dialogs& dialogs) 
                   "). Its list shows no choice, and \"Save\" writes " + number +
                   " back unless you choose a row for it.";
   }
-  form.readAt = main.romOpenings;
+  form.filled.Fill(main);
   if (!withoutRow.empty()) dialogs.Message(withoutRow);
 }
 
@@ -116,20 +108,20 @@ void SetCombo2Selection(Form2& form, int index) { Choose(form, kBalls[1], index)
 void SetCombo3Selection(Form2& form, int index) { Choose(form, kBalls[2], index); }
 
 void PressSave(Form2& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
-  if (!FindStarterOffsets(main.headtxt)) return;
-  // With no ROM open the write's own check says so: no ROM is open now whose starters Reload could read.
-  if (rom.IsOpen() && form.readAt != main.romOpenings) {
-    throw Failure(
-        "The lists were filled before the last Open ROM. Press \"Reload\" to read the starters of the ROM "
-        "that is open now. Nothing was saved.");
-  }
-  Starters values{};
+  const GameProfile* game = FindGameProfile(IdentityOf(main));
+  if (game == nullptr) return;
+  RomWrite write(rom, main);
+  write.From(form.filled, FilledBeforeLastOpen("Press \"Reload\" to read the starters of the ROM that is open now."));
   try {
-    for (int i = 0; i < kBallCount; ++i) values[i] = ParseWord((form.*kBalls[i].save).text, kBalls[i].name);
+    for (int i = 0; i < kBallCount; ++i) {
+      Bytes word;
+      AppendLittleEndian(word, static_cast<std::uint16_t>(ParseWord((form.*kBalls[i].save).text, kBalls[i].name)), 2);
+      write.Add({std::string(kBalls[i].name), game->starters[i], std::move(word)});
+    }
   } catch (const Failure& failure) {
-    throw failure.Then("Nothing was saved.");
+    throw write.Stopped(failure);
   }
-  WriteStarters(rom, main.headtxt, values[0], values[1], values[2]);
+  write.CheckAndWrite();
   dialogs.Message("Saved");
 }
 

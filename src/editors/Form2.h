@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "forms/Controls.h"
+#include "forms/Form1.h"
 #include "rom/GbaPointer.h"
 
 namespace tessarine {
@@ -16,23 +17,15 @@ class RomImage;
 class Dialogs;
 
 // The three starters: the species the player chooses from at the start of the game, one
-// word each at a fixed place. Ruby, Sapphire and Emerald keep the three side by side in
-// one table; FireRed and LeafGreen keep them apart, at odd offsets, in the game's code.
-// This is the only place that knows them, and Emerald (BPEJ) is known here although the
-// game has no profile.
-using StarterOffsets = std::array<RomOffset, 3>;
+// word each at the places the game's profile gives (GameProfile::starters). Ruby, Sapphire
+// and Emerald keep the three side by side in one table; FireRed and LeafGreen keep them
+// apart, at odd offsets, in the game's code. Japanese Emerald (BPEJ) is known here although
+// Open ROM does not take it.
 using Starters = std::array<std::int16_t, 3>;
 
-// The offsets of Ball 1, 2 and 3 for a game code, compared exactly; none for another code.
-std::optional<StarterOffsets> FindStarterOffsets(std::string_view gameCode);
-
-// The three stored species numbers, or none for a code with no starter offsets.
-std::optional<Starters> ReadStarters(RomImage& rom, std::string_view gameCode);
-
-// Writes the three numbers, and nothing for a code with no starter offsets. Checks that
-// all three places lie inside the file before the first write.
-void WriteStarters(RomImage& rom, std::string_view gameCode, std::int16_t ball1, std::int16_t ball2,
-                   std::int16_t ball3);
+// The three stored species numbers, or none for a game with no profile. A Failure, with
+// nothing read, where the file ends before the three words do.
+std::optional<Starters> ReadStarters(RomImage& rom, const GameIdentity& game);
 
 // "Tessarine Starter Editor". In each list row i is species i, copied from the main
 // window's species list. Text1 to Text3 hold the values read, balltxt to balltxt3 the
@@ -56,9 +49,8 @@ struct Form2 {
   Button Command3{"Reload"};
   Button Command4{.caption = "Command4", .visible = false};  // fills the three lists
 
-  // The Open ROM (Form1::romOpenings) after which the values on show were read; none
-  // before the first read.
-  std::optional<int> readAt;
+  // The Open ROM after which the values on show were read.
+  FilledAt filled;
 };
 
 // The form's load, and "Reload": for a game with starter offsets, reads the three words,
@@ -66,7 +58,8 @@ struct Form2 {
 // it has none) and chooses the rows of the words. A stored number with no row is told in
 // one message, naming the ball and the number; its list then shows no choice and "Save"
 // writes the stored number back. A read that fails (no ROM open) leaves the form as it
-// stood. For another game the form stays as it is.
+// stood. A ROM too short to hold the three words is told so, and the lists show no value.
+// For another game the form stays as it is.
 void LoadForm2(Form2& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
 
 // A row chosen in Ball 1, 2 or 3: its number goes into the list's Text and balltxt.
@@ -75,9 +68,9 @@ void SetCombo2Selection(Form2& form, int index);
 void SetCombo3Selection(Form2& form, int index);
 
 // "Save": writes the three values of the open game's starters and says "Saved". Does
-// nothing, and says nothing, for a game with no starter offsets. Refuses lists that were
-// filled before the last Open ROM, no open ROM, and a ROM too short to hold the starters,
-// before any write.
+// nothing, and says nothing, for a game with no starter offsets. The write rule
+// (forms/WriteRule.h) refuses lists that were filled before the last Open ROM, no open ROM,
+// and a ROM too short to hold the starters, before any write.
 void PressSave(Form2& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
 
 // "Done": closes the form; writes nothing.

@@ -1,6 +1,7 @@
 #include "editors/NameEditors.h"
 
-#include "forms/InsertPlace.h"
+#include "forms/Form1.h"
+#include "forms/WriteRule.h"
 #include "forms/ListRows.h"
 #include "rom/Failure.h"
 #include "rom/HexField.h"
@@ -14,25 +15,27 @@ namespace {
 struct NameTable {
   std::string_view entryField;  // names the entry in a sentence: "Pokemon", "Item"
   std::string_view offsetField;
+  std::string Form1::*offset;
   std::int64_t recordLength;
   int nameLength;
 };
 
-constexpr NameTable kSpeciesNames{"Pokemon", "Species names offset", kSpeciesNameLength, kSpeciesNameLength};
-constexpr NameTable kItemNames{"Item", "Item records offset", kItemRecordLength, kItemNameLength};
+constexpr NameTable kSpeciesNames{"Pokemon", "Monster Names", &Form1::Label20, kSpeciesNameLength, kSpeciesNameLength};
+constexpr NameTable kItemNames{"Item", "Item Names", &Form1::itemRecords, kItemRecordLength, kItemNameLength};
 
-void WriteName(RomImage& rom, const NameTable& table, std::string_view tableOffset, std::int32_t entry,
-               std::string_view name) {
-  std::int64_t place = 0;
+void WriteName(RomImage& rom, const Form1& main, const NameTable& table, std::int32_t entry, std::string_view name) {
+  RomWrite write(rom, main);
+  write.From(main.tables, NoTablesOfThisRom()).Check();  // the table offset is this ROM's before it is read
   try {
-    const RomOffset start = ParseOffset(tableOffset, table.offsetField);
-    place = start + entry * table.recordLength;
-    RequireInsideRom(rom, place, table.nameLength, "its name in the table at " + ToHexText(start),
-                     table.entryField, ToHexText(entry));
+    // A table may not start in the cartridge header, by the rule of every insert offset.
+    const RomOffset start =
+        ParseInsertOffset(main.*table.offset, table.offsetField, "A table of names cannot start there.");
+    write.Add({"its name in the table at " + ToHexText(start), start + entry * table.recordLength,
+               EncodeGameText(FitName(name, table.nameLength)), std::string(table.entryField), ToHexText(entry)});
   } catch (const Failure& failure) {
-    throw failure.Then("Nothing was written.");
+    throw write.Stopped(failure);
   }
-  rom.WriteBytes(static_cast<RomOffset>(place), EncodeGameText(FitName(name, table.nameLength)));
+  write.CheckAndWrite();
 }
 
 }  // namespace
@@ -46,12 +49,18 @@ std::string FitName(std::string_view typed, int characters) {
   return fitted;
 }
 
-void EditPokemonName(RomImage& rom, std::string_view Label20, std::int32_t entry, std::string_view name) {
-  WriteName(rom, kSpeciesNames, Label20, entry, name);
+std::string NoTablesOfThisRom() {
+  return "The name tables of the ROM that is open are not known: it is a game that Tessarine does not know, and "
+         "the Unsupported ROM dialog was left without \"Continue\". Open the ROM again and give its tables there, "
+         "or open a ROM of a known game.";
 }
 
-void EditItemName(RomImage& rom, std::string_view itemRecords, std::int32_t entry, std::string_view name) {
-  WriteName(rom, kItemNames, itemRecords, entry, name);
+void EditPokemonName(RomImage& rom, const Form1& main, std::int32_t entry, std::string_view name) {
+  WriteName(rom, main, kSpeciesNames, entry, name);
+}
+
+void EditItemName(RomImage& rom, const Form1& main, std::int32_t entry, std::string_view name) {
+  WriteName(rom, main, kItemNames, entry, name);
 }
 
 }  // namespace tessarine

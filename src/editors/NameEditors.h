@@ -6,6 +6,7 @@
 
 namespace tessarine {
 
+struct Form1;
 class RomImage;
 
 // "Edit Pokemon Name" and "Edit Item Name" overwrite one name in the ROM. Each asks for
@@ -21,15 +22,19 @@ inline constexpr std::string_view kItemNamePrompt = "Enter a new name. Max Lengt
 // characters such as "[PK]" counts as all of them and may be cut in two.
 std::string FitName(std::string_view typed, int characters);
 
-// Writes the name of species `entry` in the table at `Label20` (11 bytes a record): the
+// Writes the name of species `entry` in the table at main.Label20 (11 bytes a record): the
 // name fitted to 11 characters and encoded as game text, and only the bytes the encoder
 // gives, so a name with forms of several characters keeps the field's last bytes. No end
-// byte is added. Throws Failure, before any write, when `Label20` is no offset or the
-// field does not lie inside the open file.
-void EditPokemonName(RomImage& rom, std::string_view Label20, std::int32_t entry, std::string_view name);
+// byte is added. The write rule (forms/WriteRule.h) refuses it, before any write, where
+// Label20 is no table of the ROM open (Form1::tables: another ROM's, or none), is no offset
+// or starts in the cartridge header, or the field does not lie inside the open file.
+void EditPokemonName(RomImage& rom, const Form1& main, std::int32_t entry, std::string_view name);
 
-// The same for item `entry` in the records at `itemRecords` (44 bytes a record, the name
+// The same for item `entry` in the records at main.itemRecords (44 bytes a record, the name
 // in the first 14), the name fitted to 14 characters.
-void EditItemName(RomImage& rom, std::string_view itemRecords, std::int32_t entry, std::string_view name);
+void EditItemName(RomImage& rom, const Form1& main, std::int32_t entry, std::string_view name);
+
+// Why the name editors refuse while the tables belong to no ROM open (Form1::tables).
+std::string NoTablesOfThisRom();
 
 }  // namespace tessarine

@@ -26,7 +26,7 @@ void SelectEvent(Form1& form, RomImage& rom, Dialogs& dialogs, int index) {
   form.whee = std::to_string(index);
   ResetEventFields(form);
   form.personOffset = form.*(event->personField);
-  form.eventFieldsMatchRom = true;
+  form.eventFields.Fill(form);
   if (form.cowmoo == kFamilyRs) {
     form.Combo1.enabled = true;
     if (index > 0) form.Command9.enabled = true;

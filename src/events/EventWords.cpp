@@ -10,6 +10,7 @@
 #include "forms/Dialogs.h"
 #include "forms/Form1.h"
 #include "forms/ListRows.h"
+#include "forms/WriteRule.h"
 #include "rom/Failure.h"
 #include "rom/GameProfile.h"
 #include "rom/GbaPointer.h"
@@ -69,7 +70,7 @@ void LoadEventWords(Form1& form, RomImage& rom, Dialogs& dialogs) {
   }
   if (const EventWordLayout* layout = SelectedWordLayout(form)) {
     if (layout->scriptSource != ScriptSource::PersonRecord) {
-      if (const auto profile = FindGameProfile(form.headtxt)) {
+      if (const GameProfile* profile = ProfileOf(form)) {
         const std::string_view constant =
             layout->scriptSource == ScriptSource::LatiScript ? profile->latiScript : profile->groudonScript;
         form.scriptpointxt.text = constant;
@@ -101,7 +102,7 @@ void LoadEventWords(Form1& form, RomImage& rom, Dialogs& dialogs) {
   if (form.cowmoo == kFamilyRs) form.flagtxt.text = ToHexText(form.personFlag);
 }
 
-void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs) {
+void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs, RomWrite& write) {
   if (form.cowmoo == kFamilyE) {
     dialogs.Message("Save not supported");
     return;
@@ -110,30 +111,34 @@ void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs) {
   if (layout == nullptr) return;
 
   EventWord words[] = {{"Pokemon", layout->firstWordAt, &form.hoobla}, {"Cry", layout->secondWordAt, &form.hoobla2}};
+  // The words from `from` on, as the account names them when the save stops before them.
+  const auto wordsFrom = [&words](std::size_t from) {
+    std::vector<std::string> names;
+    for (std::size_t i = from; i < std::size(words); ++i) {
+      names.push_back(std::string("the ") + words[i].name + " word");
+    }
+    return names;
+  };
   std::vector<const EventWord*> saved;
   std::vector<const EventWord*> leftAlone;
-  try {
-    const RomOffset script = ParseOffset(form.scriptpointxt.text, "Script");
-    for (EventWord& word : words) {
-      word.at = OffsetPlus(script, word.distance);
-      const std::int16_t value = SpeciesToWrite(word.field->text, word.name);
+  for (std::size_t i = 0; i < std::size(words); ++i) {
+    EventWord& word = words[i];
+    std::int16_t value = 0;
+    try {
+      word.at = OffsetPlus(ParseOffset(form.scriptpointxt.text, "Script"), word.distance);
+      value = SpeciesToWrite(word.field->text, word.name);
       word.found = WordInFile(rom, word.at);
-      if (MayOverwrite(word.found)) {
-        rom.WriteWord(word.at, value);
-        saved.push_back(&word);
-      } else {
-        leftAlone.push_back(&word);
-      }
+    } catch (const Failure& failure) {
+      throw write.Stopped(failure, wordsFrom(i));
     }
-  } catch (const Failure& failure) {
-    // The person record is written before the words; the sentence says so, and which words
-    // were not written.
-    std::vector<const EventWord*> notSaved;
-    for (const EventWord& word : words) {
-      if (std::find(saved.begin(), saved.end(), &word) == saved.end()) notSaved.push_back(&word);
+    if (!MayOverwrite(word.found)) {
+      leftAlone.push_back(&word);
+      continue;
     }
-    throw failure.Then(WhatWasSaved(saved) + " The " + JoinNames(notSaved) +
-                       (notSaved.size() == 1 ? " word was not." : " words were not."));
+    Bytes bytes;
+    AppendLittleEndian(bytes, static_cast<std::uint16_t>(value), 2);
+    write.Add({std::string("the ") + word.name + " word", word.at, std::move(bytes)}).CheckAndWrite(wordsFrom(i + 1));
+    saved.push_back(&word);
   }
   if (!leftAlone.empty()) dialogs.Message(LeftAloneMessage(leftAlone, saved));
 }

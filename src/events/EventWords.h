@@ -5,9 +5,7 @@ namespace tessarine {
 struct Form1;
 class RomImage;
 class Dialogs;
-
-// The family literal that the dispatch of event words foresees and no game profile has.
-inline constexpr const char* kFamilyE = "e";
+class RomWrite;
 
 // Reads the two event words of the selected event at their distances from the script
 // offset, shows them and moves the species list to the one it follows. In Ruby and
@@ -18,7 +16,8 @@ void LoadEventWords(Form1& form, RomImage& rom, Dialogs& dialogs);
 // record, by the rule of events/SaveRule.h. A word is written only where the ROM holds a
 // species number at that place now; any other value there is part of the script (a cry
 // kept behind the expected place leaves opcodes there), so it is left as it is and the
-// person is told after the save. A Failure here says what the save wrote before it.
-void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs);
+// person is told after the save. The words are pieces of the save's `write`, after the
+// person record: a Failure here says what the save wrote before it.
+void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs, RomWrite& write);
 
 }  // namespace tessarine

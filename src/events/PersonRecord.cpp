@@ -7,6 +7,7 @@
 #include "events/EventWords.h"
 #include "events/SaveRule.h"
 #include "forms/Form1.h"
+#include "forms/WriteRule.h"
 #include "rom/Failure.h"
 #include "rom/GbaPointer.h"
 #include "rom/HexField.h"
@@ -130,10 +131,10 @@ void SavePerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
   record.sprite = ParseWord(form.spritetxt.text, "Sprite");  // the rule has parsed all three
   record.flag = ParseWord(form.flagtxt.text, "Flag");
   record.behaviour = ParseByte(form.behavtxt, "Behavior");
-  rom.Seek(ParseOffset(form.personOffset, "Person offset"));
-  rom.WriteBytes(record.ToBytes());
+  RomWrite write(rom, form);
+  write.Add({"the person record", ParseOffset(form.personOffset, "Person offset"), record.ToBytes()}).CheckAndWrite();
   form.personFlag = record.flag;
-  SaveEventWords(form, rom, dialogs);
+  SaveEventWords(form, rom, dialogs, write);
 }
 
 void SetBehaviourText(Form1& form) {

@@ -44,7 +44,7 @@ std::optional<std::string> WordsRefusal(const Form1& form) {
 
 std::optional<std::string> SaveRefusal(const Form1& form, const RomImage& rom) {
   if (!rom.IsOpen()) return "No ROM is open. Open a ROM first.";
-  if (!form.eventFieldsMatchRom) {
+  if (!form.eventFields.Current(form)) {
     return "Pick an event in the list before saving: no event was picked since the ROM now open was opened, "
            "and a save would write at offsets that may not belong to it.";
   }

@@ -1,5 +1,7 @@
 #include "flyland/FlyRecords.h"
 
+#include "forms/Form1.h"
+#include "forms/WriteRule.h"
 #include "rom/Failure.h"
 #include "rom/HexField.h"
 #include "rom/RomImage.h"
@@ -45,11 +47,10 @@ const LocationList kHoennLocations = {
     "Pacifidlog Town",       "Ever Grande City",       "Battle Tower",     "Southern Island",
 };
 
-const FlyTable* FindFlyTable(std::string_view gameCode) {
-  for (const FlyTable& table : kFlyTables) {
-    if (table.code == gameCode) return &table;
-  }
-  return nullptr;
+std::optional<FlyTable> FindFlyTable(const GameIdentity& game) {
+  const GameProfile* profile = FindGameProfile(game);
+  if (profile == nullptr) return std::nullopt;
+  return FlyTable{profile->flyList, profile->flyTable};
 }
 
 RomOffset FlyRecordOffset(const FlyTable& table, int index) {
@@ -63,25 +64,29 @@ RomOffset FlyRecordOffset(const FlyTable& table, int index) {
 std::string BankText(std::uint8_t bank) { return "B:" + HexDigits(bank); }
 std::string LevelText(std::uint8_t level) { return "L:" + HexDigits(level); }
 
-std::optional<FlyRecord> ReadFlyRecord(RomImage& rom, std::string_view gameCode, int index) {
-  const FlyTable* table = FindFlyTable(gameCode);
-  if (table == nullptr) return std::nullopt;
+std::optional<FlyRecord> ReadFlyRecord(RomImage& rom, const GameIdentity& game, int index) {
+  const auto table = FindFlyTable(game);
+  if (!table) return std::nullopt;
   return FieldsOf(ReadWholeRecord(rom, FlyRecordOffset(*table, index), index, "read"));
 }
 
-std::optional<FlyRecord> WriteFlyPosition(RomImage& rom, std::string_view gameCode, int index,
+std::optional<FlyRecord> WriteFlyPosition(RomImage& rom, const Form1& main, const FilledAt& filled, int index,
                                           std::string_view xText, std::string_view yText) {
-  const FlyTable* table = FindFlyTable(gameCode);
-  if (table == nullptr) return std::nullopt;
+  const auto table = FindFlyTable(IdentityOf(main));
+  if (!table) return std::nullopt;
   const RomOffset offset = FlyRecordOffset(*table, index);
-  Bytes bytes = ReadWholeRecord(rom, offset, index, "saved");
+  RomWrite write(rom, main);
+  write.From(filled,
+             FilledBeforeLastOpen("Pick a location, or press \"Load\", to read its record from the ROM that is open now."));
+  Bytes bytes;
   try {
+    bytes = ReadWholeRecord(rom, offset, index, "saved");
     bytes[kXByte] = ParseByte(xText, "X");
     bytes[kYByte] = ParseByte(yText, "Y");
   } catch (const Failure& failure) {
-    throw failure.Then("Nothing was saved.");
+    throw write.Stopped(failure);
   }
-  rom.WriteBytes(offset, bytes);
+  write.Add({"fly record " + std::to_string(index), offset, bytes}).CheckAndWrite();
   return FieldsOf(bytes);
 }
 

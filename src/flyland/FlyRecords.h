@@ -6,10 +6,13 @@
 #include <string>
 #include <string_view>
 
+#include "rom/GameProfile.h"
 #include "rom/GbaPointer.h"
 
 namespace tessarine {
 
+struct FilledAt;
+struct Form1;
 class RomImage;
 
 // Where the player comes down after flying: one 8-byte record per fly location, 20 of
@@ -34,27 +37,15 @@ using LocationList = std::array<std::string_view, kFlyRecordCount>;
 extern const LocationList kKantoLocations;
 extern const LocationList kHoennLocations;
 
-// Which list a game shows: kanto for FireRed and LeafGreen, hoenn for the others.
-enum class LocationListName { kanto, hoenn };
-
-// One game's fly table: chosen by the game code alone, nothing searched for or checked.
-// Emerald (BPEJ) has no game profile; this table is all that is known of it.
+// One game's fly table: where record 0 lies and which location list names its records, as
+// the game's profile gives them. Nothing is searched for or checked.
 struct FlyTable {
-  std::string_view code;
-  LocationListName list;
+  FlyList list;
   RomOffset base;  // record 0
 };
 
-inline constexpr std::array<FlyTable, 5> kFlyTables{{
-    {"AXVE", LocationListName::hoenn, 0x3E5A2E},
-    {"AXPE", LocationListName::hoenn, 0x3E5A86},
-    {"BPRE", LocationListName::kanto, 0x3EEBF6},
-    {"BPGE", LocationListName::kanto, 0x3EEA32},
-    {"BPEJ", LocationListName::hoenn, 0x57B11A},
-}};
-
-// The table of the game with this exact code, or none.
-const FlyTable* FindFlyTable(std::string_view gameCode);
+// The table of the game with this exact code and revision, or none.
+std::optional<FlyTable> FindFlyTable(const GameIdentity& game);
 
 // Where record `index` (0 to 19) of a table begins.
 RomOffset FlyRecordOffset(const FlyTable& table, int index);
@@ -63,15 +54,16 @@ RomOffset FlyRecordOffset(const FlyTable& table, int index);
 std::string BankText(std::uint8_t bank);
 std::string LevelText(std::uint8_t level);
 
-// Reads record `index` of the table of `gameCode`. None, and nothing read, when the code
-// has no fly table. Fails when the record does not lie wholly inside the file.
-std::optional<FlyRecord> ReadFlyRecord(RomImage& rom, std::string_view gameCode, int index);
+// Reads record `index` of the table of `game`. None, and nothing read, when the game has no
+// fly table. Fails when the record does not lie wholly inside the file.
+std::optional<FlyRecord> ReadFlyRecord(RomImage& rom, const GameIdentity& game, int index);
 
-// Writes a new landing tile into record `index`: parses `xText` and then `yText` as
-// bytes before anything is written, then writes the record back with only bytes 4 and 6
-// replaced. Gives the record as it now stands; none, and nothing read or written, when
-// the code has no fly table.
-std::optional<FlyRecord> WriteFlyPosition(RomImage& rom, std::string_view gameCode, int index,
+// Writes a new landing tile into record `index` of the table of the game open in `main`:
+// parses `xText` and then `yText` as bytes before anything is written, then writes the
+// record back with only bytes 4 and 6 replaced, by the write rule (forms/WriteRule.h) for
+// values of a window filled at `filled`. Gives the record as it now stands; none, and
+// nothing read or written, when the game has no fly table.
+std::optional<FlyRecord> WriteFlyPosition(RomImage& rom, const Form1& main, const FilledAt& filled, int index,
                                           std::string_view xText, std::string_view yText);
 
 }  // namespace tessarine

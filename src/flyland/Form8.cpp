@@ -22,23 +22,24 @@ void ShowRecord(Form8& form, const FlyRecord& record) {
 
 }  // namespace
 
-std::vector<std::string> LocationRows(LocationListName list) {
-  const LocationList& entries = list == LocationListName::kanto ? kKantoLocations : kHoennLocations;
+std::vector<std::string> LocationRows(FlyList list) {
+  const LocationList& entries = list == FlyList::kanto ? kKantoLocations : kHoennLocations;
   return {entries.begin(), entries.end()};
 }
 
-void LoadForm8(Form8& form, std::string_view headtxt, Dialogs& dialogs) {
+void LoadForm8(Form8& form, const Form1& main, Dialogs& dialogs) {
   form.Image1.visible = false;
   SetMapSizeFromSurface(form);
+  form.filled.Fill(main);
 
-  const FlyTable* table = FindFlyTable(headtxt);
-  if (table == nullptr) {
+  const auto table = FindFlyTable(IdentityOf(main));
+  if (!table) {
     dialogs.Message("Unsupported Rom. Please Load a Different Rom.");
     return;
   }
-  if (table->code == "BPEJ") {
+  if (main.headtxt == "BPEJ") {
     ShowMapPicture(form, MapPicture::Picture3, kPicture3Size);
-  } else if (table->list == LocationListName::kanto) {
+  } else if (table->list == FlyList::kanto) {
     ShowMapPicture(form, MapPicture::Picture4, kPicture4Size);
     form.kanto.visible = true;
     form.hoenn.visible = false;
@@ -49,24 +50,28 @@ void LoadForm8(Form8& form, std::string_view headtxt, Dialogs& dialogs) {
   form.hoenn.enabled = true;
 }
 
-void SelectLocation(Form8& form, RomImage& rom, std::string_view headtxt, LocationListName list, int index) {
-  if (!(list == LocationListName::kanto ? form.kanto : form.hoenn).Show(index)) return;  // no such entry
+void SelectLocation(Form8& form, RomImage& rom, const Form1& main, FlyList list, int index) {
+  if (!(list == FlyList::kanto ? form.kanto : form.hoenn).Show(index)) return;  // no such entry
   form.mapnumber = std::to_string(index);
-  PressLoadbutton(form, rom, headtxt);
+  PressLoadbutton(form, rom, main);
 }
 
-void PressLoadbutton(Form8& form, RomImage& rom, std::string_view headtxt) {
-  if (const auto record = ReadFlyRecord(rom, headtxt, RecordOnScreen(form))) ShowRecord(form, *record);
+void PressLoadbutton(Form8& form, RomImage& rom, const Form1& main) {
+  if (const auto record = ReadFlyRecord(rom, IdentityOf(main), RecordOnScreen(form))) {
+    ShowRecord(form, *record);
+    form.filled.Fill(main);
+  }
   form.Image1.visible = true;
   form.Shape2.visible = true;
 }
 
-void PressSavebutton(Form8& form, RomImage& rom, std::string_view headtxt, Dialogs& dialogs) {
-  if (const auto record = WriteFlyPosition(rom, headtxt, RecordOnScreen(form), form.XXt.text, form.YYt.text)) {
+void PressSavebutton(Form8& form, RomImage& rom, const Form1& main, Dialogs& dialogs) {
+  const auto record = WriteFlyPosition(rom, main, form.filled, RecordOnScreen(form), form.XXt.text, form.YYt.text);
+  if (record) {
     ShowRecord(form, *record);
     dialogs.Message("Saved");
   }
-  PressLoadbutton(form, rom, headtxt);
+  PressLoadbutton(form, rom, main);
 }
 
 }  // namespace tessarine

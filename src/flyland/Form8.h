@@ -6,6 +6,7 @@
 
 #include "flyland/FlyRecords.h"
 #include "forms/Controls.h"
+#include "forms/Form1.h"
 
 namespace tessarine {
 
@@ -67,7 +68,7 @@ struct ScrollBar {
 
 inline constexpr std::string_view kSelectALevel = "Select a Level";
 
-std::vector<std::string> LocationRows(LocationListName list);
+std::vector<std::string> LocationRows(FlyList list);
 
 // Wingfall: where the player lands after flying to a location. The person picks a
 // location, sees its map bank, level and landing tile, brings a picture of that map,
@@ -77,8 +78,8 @@ struct Form8 {
   std::string title = "Tessarine - Wingfall";
 
   Label Label1{"Location"};
-  ComboBox kanto{.rows = LocationRows(LocationListName::kanto), .text = std::string(kSelectALevel), .visible = false};
-  ComboBox hoenn{.rows = LocationRows(LocationListName::hoenn), .text = std::string(kSelectALevel), .enabled = false};
+  ComboBox kanto{.rows = LocationRows(FlyList::kanto), .text = std::string(kSelectALevel), .visible = false};
+  ComboBox hoenn{.rows = LocationRows(FlyList::hoenn), .text = std::string(kSelectALevel), .enabled = false};
   std::string mapnumber = "0";  // the record on screen, decimal
   Button loadbutton{.caption = "Load", .enabled = false};
   Button savebutton{.caption = "Save", .enabled = false};
@@ -123,22 +124,26 @@ struct Form8 {
   Button Command11{.caption = "EML", .visible = false};
   Button Command12{.caption = "EMS", .visible = false};
   Button txtchange{.visible = false};
+
+  // The Open ROM after which the window opened or last read a record: a save writes only
+  // what was read from the ROM that is open.
+  FilledAt filled;
 };
 
 // The window's opening: the map size from the surface, then by the game code the list
 // on show and the picture, and the controls of a record enabled. A game without a fly
 // table keeps everything disabled and hears "Unsupported Rom. Please Load a Different Rom.".
-void LoadForm8(Form8& form, std::string_view headtxt, Dialogs& dialogs);
+void LoadForm8(Form8& form, const Form1& main, Dialogs& dialogs);
 
 // A location picked in kanto or hoenn: it becomes mapnumber and its record loads.
-void SelectLocation(Form8& form, RomImage& rom, std::string_view headtxt, LocationListName list, int index);
+void SelectLocation(Form8& form, RomImage& rom, const Form1& main, FlyList list, int index);
 
 // Load: shows bank, level and landing tile of the record mapnumber names, and puts the
 // landing markers on that tile.
-void PressLoadbutton(Form8& form, RomImage& rom, std::string_view headtxt);
+void PressLoadbutton(Form8& form, RomImage& rom, const Form1& main);
 
 // Save: writes XXt and YYt into the record, says "Saved", and loads the record afresh.
 // A text that is no byte ends it before anything is written.
-void PressSavebutton(Form8& form, RomImage& rom, std::string_view headtxt, Dialogs& dialogs);
+void PressSavebutton(Form8& form, RomImage& rom, const Form1& main, Dialogs& dialogs);
 
 }  // namespace tessarine

@@ -1,12 +1,26 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "forms/Controls.h"
+#include "rom/GameProfile.h"
 #include "rom/GbaPointer.h"
 
 namespace tessarine {
+
+struct Form1;
+
+// The Open ROM after which a form's contents were read from the ROM or filled: a form filled
+// before the last Open ROM may hold what belongs to the ROM opened before, and no tool writes
+// from it (forms/WriteRule.h).
+struct FilledAt {
+  std::optional<int> opening;  // Form1::romOpenings then; none before the first fill
+
+  void Fill(const Form1& main);
+  bool Current(const Form1& main) const;
+};
 
 // What hoobla and hoobla2, the fields that a save writes into the selected event's two
 // words, hold for that event. The rule of the save (events/SaveRule.h) reads it.
@@ -33,7 +47,8 @@ struct Form1 {
   // State of the open ROM, filled by OpenRom from the game's profile.
   std::string rom = "crap";  // "Loaded" once a ROM of a known game is open
   std::string headtxt;       // the game code read at the last open, for all logic
-  std::string cowmoo;        // the game family, "rs" or "frlg"
+  int revision = kNoRevision;  // the revision byte read with it
+  std::string cowmoo;        // the game family, "rs", "frlg" or "e"
   std::string Label20 = "&H1F716C";
   std::string Label1 = "&H38EE50";
   std::string raytxt;
@@ -45,6 +60,10 @@ struct Form1 {
   // How many times Open ROM has run. What a tool read from the ROM remembers this count,
   // so that it knows whether it still belongs to the ROM that is open.
   int romOpenings = 0;
+  // When Label20 and itemRecords were last given the tables of the ROM then open: at the Open
+  // of a known game, or by the Unsupported ROM dialog. After any other Open they belong to
+  // another ROM, or to none.
+  FilledAt tables;
 
   // The three image buttons along the top, with their labels.
   Label Label15{"Open"};
@@ -87,7 +106,7 @@ struct Form1 {
   // What a save may rely on (events/SaveRule.h): the event fields describe the ROM opened
   // before until an event is picked again; the person fields are the record's only after a
   // load that read it whole, Flag included; and the word fields hold what WordsToSave says.
-  bool eventFieldsMatchRom = true;
+  FilledAt eventFields;
   bool personLoaded = false;
   WordsToSave wordsToSave;
 
@@ -99,5 +118,13 @@ struct Form1 {
   Button Command8{"Save"};  // has no action
   TextArea Text4;           // the listing; the record keeps the one copy of it in the core
 };
+
+inline void FilledAt::Fill(const Form1& main) { opening = main.romOpenings; }
+inline bool FilledAt::Current(const Form1& main) const { return opening == main.romOpenings; }
+
+// The game of the ROM opened last, as its header named it, and its profile (none for a game
+// whose code and revision have none).
+inline GameIdentity IdentityOf(const Form1& main) { return {main.headtxt, main.revision}; }
+inline const GameProfile* ProfileOf(const Form1& main) { return FindGameProfile(IdentityOf(main)); }
 
 }  // namespace tessarine

@@ -75,7 +75,7 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
     connect(widget, &QLineEdit::textEdited, this, [box = box](const QString& t) { box->text = t.toStdString(); });
   }
   connect(Command1_, &QPushButton::clicked, this,
-          [this] { shell_.Run([this] { InsertGivePokemon(form_, shell_.rom(), shell_.dialogs()); }); });
+          [this] { shell_.Run([this] { InsertGivePokemon(form_, shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
   Refresh();
 }
 

@@ -196,8 +196,9 @@ void Form6Window::Connect() {
   }
 
   connect(Command1_, &QPushButton::clicked, this,
-          [this] { shell_.Run([this] { PressInsert(form_, shell_.rom(), shell_.dialogs()); }); });
-  connect(Command2_, &QPushButton::clicked, this, [this] { shell_.Run([this] { PressLoad(form_, shell_.rom()); }); });
+          [this] { shell_.Run([this] { PressInsert(form_, shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+  connect(Command2_, &QPushButton::clicked, this,
+          [this] { shell_.Run([this] { PressLoad(form_, shell_.form1(), shell_.rom()); }); });
   connect(Command3_, &QPushButton::clicked, this, [this] { shell_.Run([this] { PressApply(form_); }); });
   connect(Command4_, &QPushButton::clicked, this, [this] { shell_.Run([this] { PressRestore(form_); }); });
   connect(Command5_, &QPushButton::clicked, this, [this] {

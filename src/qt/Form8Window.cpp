@@ -203,17 +203,17 @@ void Form8Window::BuildWidgets() {
 
 void Form8Window::Connect() {
   // The game code is the main window's of the moment, read at each load and save.
-  const std::pair<QComboBox*, LocationListName> lists[] = {{kanto_, LocationListName::kanto},
-                                                           {hoenn_, LocationListName::hoenn}};
+  const std::pair<QComboBox*, FlyList> lists[] = {{kanto_, FlyList::kanto},
+                                                           {hoenn_, FlyList::hoenn}};
   for (const auto& [widget, list] : lists) {
     connect(widget, &QComboBox::activated, this, [this, list = list](int i) {
-      shell_.Run([this, list, i] { SelectLocation(form_, shell_.rom(), shell_.form1().headtxt, list, i); });
+      shell_.Run([this, list, i] { SelectLocation(form_, shell_.rom(), shell_.form1(), list, i); });
     });
   }
   connect(loadbutton_, &QPushButton::clicked, this,
-          [this] { shell_.Run([this] { PressLoadbutton(form_, shell_.rom(), shell_.form1().headtxt); }); });
+          [this] { shell_.Run([this] { PressLoadbutton(form_, shell_.rom(), shell_.form1()); }); });
   connect(savebutton_, &QPushButton::clicked, this, [this] {
-    shell_.Run([this] { PressSavebutton(form_, shell_.rom(), shell_.form1().headtxt, shell_.dialogs()); });
+    shell_.Run([this] { PressSavebutton(form_, shell_.rom(), shell_.form1(), shell_.dialogs()); });
   });
   // The landing tile is typed freely; Enter saves it.
   connect(XXt_, &QLineEdit::textEdited, this, [this](const QString& t) { form_.XXt.text = t.toStdString(); });

@@ -111,7 +111,7 @@ Form3Window::Form3Window(QtShell& shell, Form3& form) : WildBattleWindow(shell, 
   connect(Combo3_, &QComboBox::activated, this,
           [this](int i) { shell_.Run([this, i] { SetCombo3Selection(form3_, i); }); });
   connect(Command1_, &QPushButton::clicked, this,
-          [this] { shell_.Run([this] { InsertWildBattle(form3_, shell_.rom(), shell_.dialogs()); }); });
+          [this] { shell_.Run([this] { InsertWildBattle(form3_, shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
   FinishLayout();
   Refresh();
 }
@@ -134,7 +134,7 @@ Form4Window::Form4Window(QtShell& shell, Form4& form)
   connect(Combo3_, &QComboBox::activated, this,
           [this](int i) { shell_.Run([this, i] { SetCombo3Selection(form4_, i); }); });
   connect(Command1_, &QPushButton::clicked, this,
-          [this] { shell_.Run([this] { InsertWildBattle(form4_, shell_.rom(), shell_.dialogs()); }); });
+          [this] { shell_.Run([this] { InsertWildBattle(form4_, shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
   FinishLayout();
   Refresh();
 }

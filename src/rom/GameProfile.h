@@ -1,27 +1,61 @@
 #pragma once
 
-#include <optional>
+#include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "rom/GbaPointer.h"
+
 namespace tessarine {
+
+class RomImage;
 
 // The four characters of the cartridge header that name the game, compared exactly.
 using GameCode = std::string;
 inline constexpr int kGameCodeOffset = 0xAC;
+// The header byte that tells the revision of the game: 0 for 1.0, 1 for 1.1, 2 for 1.2.
+inline constexpr int kRevisionOffset = 0xBC;
+// A header too short to hold the revision byte.
+inline constexpr int kNoRevision = -1;
 
-// "rs" (Ruby, Sapphire) or "frlg" (FireRed, LeafGreen): which event list the main window
-// offers and which load and save of event words runs.
+// A game as the header names it: its code and its revision together. Every revision of a
+// game keeps its data at offsets of its own, so the code alone names no offset.
+struct GameIdentity {
+  GameCode code;
+  int revision = kNoRevision;
+  bool operator==(const GameIdentity&) const = default;
+};
+
+// The code and revision in the header of the open file; what the file does not hold stays
+// empty (no code) or kNoRevision.
+GameIdentity ReadGameIdentity(RomImage& rom);
+
+// "AXVE", or "BPRE 1.1" for a later revision: the identity as the "RomCode:" line shows it.
+// Each header byte of the code is one character (Latin-1), shown in UTF-8.
+std::string ShownIdentity(const GameIdentity& identity);
+
+// "rs" (Ruby, Sapphire), "frlg" (FireRed, LeafGreen) or "e" (Emerald): which event list the
+// main window offers and which load and save of event words runs.
 using GameFamily = std::string;
 inline constexpr std::string_view kFamilyRs = "rs";
 inline constexpr std::string_view kFamilyFrlg = "frlg";
+inline constexpr std::string_view kFamilyE = "e";
 
-// The fixed offsets of one supported game, as "&H" and six digits. The fields carry the
-// names of the main window's state fields they are copied into; the same field serves
-// different events in the two families. Nothing is searched for in the ROM.
+// The fly locations a game's fly table holds, record by record.
+enum class FlyList { kanto, hoenn };
+
+// Every fixed offset of one revision of one game: the one place where any tool finds where
+// that game keeps its data. Nothing is searched for in the ROM.
+//
+// The main window's offsets are "&H" and six digits and carry the names of the state fields
+// they are copied into; the same field serves different events in the families. A game that
+// Open ROM does not take (Japanese Emerald) has no family and no such offsets: only the
+// starter editor and Wingfall know it.
 struct GameProfile {
   std::string_view code;
-  std::string_view cowmoo;   // the family
+  int revision;
+  std::string_view cowmoo;   // the family; empty for a game that Open ROM does not take
   std::string_view Label20;  // species name table
   std::string_view Label1;   // person: Rayquaza (rs), Zapdos (frlg)
   std::string_view raytxt;   // person: Latias/Latios (rs), Deoxys (frlg)
@@ -32,10 +66,21 @@ struct GameProfile {
   std::string_view latiScript;     // script of Latias/Latios (rs only)
   std::string_view groudonScript;  // script of Groudon/Kyogre (rs only)
   std::string_view itemRecords;    // item table, 44-byte records
+  // The three starters, one species word each: side by side in Ruby, Sapphire and
+  // Emerald, apart (at odd offsets) in FireRed and LeafGreen.
+  std::array<RomOffset, 3> starters;
+  RomOffset flyTable;  // record 0 of the 20 fly records
+  FlyList flyList;
+
+  // Whether Open ROM takes the game: it has a family, and the main window's offsets.
+  bool Opens() const { return !cowmoo.empty(); }
 };
 
-// The profile of the game with this exact code (case included), or none. Emerald
-// (BPEJ) has none: only the tools that list it in their own tables know it.
-std::optional<GameProfile> FindGameProfile(std::string_view gameCode);
+// The profile of this exact code (case included) and revision, or none.
+const GameProfile* FindGameProfile(const GameIdentity& identity);
+
+// Whether some revision of the code has a profile: a ROM of a known game whose revision
+// has none is told so, not taken for another revision.
+bool IsKnownCode(std::string_view code);
 
 }  // namespace tessarine

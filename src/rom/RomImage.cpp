@@ -9,6 +9,15 @@
 #include "rom/FilePath.h"
 #include "rom/HexField.h"
 
+#ifdef _WIN32
+#define NOMINMAX
+#define WIN32_LEAN_AND_MEAN
+#include <io.h>
+#include <windows.h>
+#else
+#include <sys/stat.h>
+#endif
+
 namespace tessarine {
 namespace {
 
@@ -93,6 +102,37 @@ void RomImage::Close() noexcept {
   regularFile_ = false;
   romPath_.clear();
   position_ = 0;
+}
+
+bool RomImage::StillAtItsPath() const {
+  if (file_ == nullptr) return false;
+  if (!regularFile_) return true;  // a device: nothing else can be put at its name
+#ifdef _WIN32
+  // A file is the same when its volume and its index on that volume are.
+  BY_HANDLE_FILE_INFORMATION open{};
+  const auto openHandle = reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(file_)));
+  if (openHandle == INVALID_HANDLE_VALUE || !::GetFileInformationByHandle(openHandle, &open)) return false;
+  std::filesystem::path named;
+  try {
+    named = ToFilePath(romPath_);
+  } catch (const std::exception&) {
+    return false;
+  }
+  const HANDLE namedHandle = ::CreateFileW(named.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                           nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (namedHandle == INVALID_HANDLE_VALUE) return false;
+  BY_HANDLE_FILE_INFORMATION now{};
+  const bool read = ::GetFileInformationByHandle(namedHandle, &now);
+  ::CloseHandle(namedHandle);
+  return read && now.dwVolumeSerialNumber == open.dwVolumeSerialNumber &&
+         now.nFileIndexHigh == open.nFileIndexHigh && now.nFileIndexLow == open.nFileIndexLow;
+#else
+  // A file is the same when its device and its inode are.
+  struct stat open {};
+  struct stat named {};
+  return ::fstat(::fileno(file_), &open) == 0 && ::stat(romPath_.c_str(), &named) == 0 &&
+         open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+#endif
 }
 
 void RomImage::RequireOpen(const char* what) const {

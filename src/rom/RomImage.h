@@ -34,6 +34,11 @@ class RomImage {
   void Close() noexcept;  // harmless when nothing is open
 
   bool IsOpen() const { return file_ != nullptr; }
+  // Whether the path the file was opened by still names that same file: another program
+  // may have put a new file there since (saved by writing a new file and renaming it over
+  // this one), or deleted it, while this one stays open under no name. False when no file
+  // is open.
+  bool StillAtItsPath() const;
   bool IsReadOnly() const { return readOnly_; }
   const std::string& romPath() const { return romPath_; }
   std::int64_t Position() const { return position_; }

@@ -1,7 +1,7 @@
 #include "scripts/BuilderForms.h"
 
 #include "forms/Dialogs.h"
-#include "forms/InsertPlace.h"
+#include "forms/WriteRule.h"
 #include "rom/Failure.h"
 #include "scripts/ScriptBuilders.h"
 
@@ -13,17 +13,12 @@ std::vector<std::string> LevelRows() {
   return rows;
 }
 
-void AskAndWriteMessage(RomImage& rom, Dialogs& dialogs, std::string_view title, std::string_view prompt,
-                        RomOffset textOffset, std::string_view field, std::string_view fieldText,
-                        std::string_view written) {
-  const std::string message = dialogs.Input(prompt, title).value_or("");
-  try {
-    RequireInsideRom(rom, textOffset, static_cast<std::int64_t>(MessageTextBytes(message).size()), "the message",
-                     field, fieldText);
-    WriteMessageText(rom, textOffset, message);
-  } catch (const Failure& failure) {
-    throw Failure(std::string(written) + " Its message was not written: " + failure.what());
-  }
+void AskAndWriteMessage(RomWrite& write, Dialogs& dialogs, std::string_view title, std::string_view prompt,
+                        WritePiece message) {
+  // One piece: a text that does not fit is refused whole, its end bytes with it.
+  message.bytes = MessageTextBytes(dialogs.Input(prompt, title).value_or(""));
+  write.Add(std::move(message));
+  write.CheckAndWrite();
 }
 
 }  // namespace tessarine

@@ -8,8 +8,9 @@
 
 namespace tessarine {
 
-class RomImage;
 class Dialogs;
+class RomWrite;
+struct WritePiece;
 
 // What the three builder forms (Form3, Form4, Form5) share.
 
@@ -21,13 +22,12 @@ inline constexpr std::string_view kWildMessageTitle = "Wild Pokemon Message";
 inline constexpr std::string_view kWildMessagePrompt =
     "Type the Message you would like your Event to have. [N] = Next Line";
 
-// Asks in an input box for the message of a script that is already in the ROM, and writes
-// it at `textOffset`. Closing the box is no cancel: the message is then empty, and only FF
-// 00 is written, since the script refers to that place. A message that does not fit in
-// the file is not written, and the Failure says so, and that `written` (a sentence on the
-// script) stands.
-void AskAndWriteMessage(RomImage& rom, Dialogs& dialogs, std::string_view title, std::string_view prompt,
-                        RomOffset textOffset, std::string_view field, std::string_view fieldText,
-                        std::string_view written);
+// Asks in an input box for the message of a script that `write` has already written, and
+// writes it as the piece `message` (its name and place) by the same write rule. Closing the
+// box is no cancel: the message is then empty, and only FF 00 is written, since the script
+// refers to that place. A message that may not be written is not, and the Failure says
+// what was written before.
+void AskAndWriteMessage(RomWrite& write, Dialogs& dialogs, std::string_view title, std::string_view prompt,
+                        WritePiece message);
 
 }  // namespace tessarine

@@ -4,7 +4,7 @@
 
 #include "forms/Dialogs.h"
 #include "forms/Form1.h"
-#include "forms/InsertPlace.h"
+#include "forms/WriteRule.h"
 #include "rom/Failure.h"
 #include "rom/GameProfile.h"
 #include "rom/HexField.h"
@@ -16,10 +16,10 @@ namespace tessarine {
 namespace {
 
 // The item table of the open ROM, when there is one to read.
-bool HasItemTable(const RomImage& rom, std::string_view itemRecords) {
-  if (!rom.IsOpen()) return false;
+bool HasItemTable(const RomImage& rom, const Form1& main) {
+  if (!rom.IsOpen() || !main.tables.Current(main)) return false;  // the tables of another ROM, or of none
   try {
-    return ParseOffset(itemRecords) >= 0;
+    return ParseOffset(main.itemRecords) >= 0;
   } catch (const Failure&) {
     return false;  // an unknown game before the Unsupported ROM dialog gave the offset
   }
@@ -28,12 +28,15 @@ bool HasItemTable(const RomImage& rom, std::string_view itemRecords) {
 }  // namespace
 
 void LoadForm5Lists(Form5& form, Form1& main, RomImage& rom) {
-  if (const auto profile = FindGameProfile(main.headtxt)) main.itemRecords = profile->itemRecords;
+  if (const GameProfile* profile = ProfileOf(main); profile != nullptr && profile->Opens()) {
+    main.itemRecords = profile->itemRecords;
+  }
   form.Label7.caption = main.itemRecords;
   form.Combo1.Clear();
   form.Combo1.rows = main.Combo1.rows;
   form.Combo2.Clear();
-  if (HasItemTable(rom, main.itemRecords)) form.Combo2.rows = LoadItemList(rom, main.itemRecords);
+  if (HasItemTable(rom, main)) form.Combo2.rows = LoadItemList(rom, main.itemRecords);
+  form.filled.Fill(main);
 }
 
 void SetCombo1Selection(Form5& form, int index) {
@@ -51,31 +54,30 @@ void SetCombo2Selection(Form5& form, int index) {
   form.Text2.text = ToHexText(index);
 }
 
-void InsertGivePokemon(Form5& form, RomImage& rom, Dialogs& dialogs) {
+void InsertGivePokemon(Form5& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
   constexpr std::string_view kScriptField = "Offset To insert Script";
   constexpr std::string_view kTextField = "Offset to insert new text";
-  RomOffset script = 0;
-  RomOffset text = 0;
-  std::vector<ScriptPiece> pieces;
+  RomWrite write(rom, main);
+  write.From(form.filled, FilledBeforeLastOpen("Close the form and open it again from the Tools menu to take the "
+                                               "lists of the ROM that is open now."));
+  WritePiece question{"the question", 0, MessageTextBytes(""), std::string(kTextField), form.Text12.text};
   try {
-    text = ParseInsertOffset(form.Text12.text, kTextField);
+    const RomOffset text = ParseInsertOffset(form.Text12.text, kTextField);
+    question.at = text;
     const std::int16_t item = ParseWord(form.Text2.text, "Held Item");
     const std::uint8_t level = ParseByte(form.Text1.text, "Level");
     const std::int16_t species = ParseWord(form.pkmntxt.text, "Pokemon");
-    script = ParseInsertOffset(form.Text3.text, kScriptField);
-    pieces = GivePokemonPieces(species, level, item, script, text);
-    std::int64_t end = script;
-    for (const ScriptPiece& piece : pieces) {
-      end = std::max(end, std::int64_t{piece.at} + static_cast<std::int64_t>(piece.bytes.size()));
+    const RomOffset script = ParseInsertOffset(form.Text3.text, kScriptField);
+    for (ScriptPiece& piece : GivePokemonPieces(species, level, item, script, text)) {
+      write.Add(
+          {std::string(piece.name), piece.at, std::move(piece.bytes), std::string(kScriptField), form.Text3.text});
     }
-    RequireInsideRom(rom, script, end - script, "the script", kScriptField, form.Text3.text);
-    RequireInsideRom(rom, text, 2, "the question", kTextField, form.Text12.text);
+    write.Expect(question);
   } catch (const Failure& failure) {
-    throw failure.Then("Nothing was written.");
+    throw write.Stopped(failure);
   }
-  for (const ScriptPiece& piece : pieces) rom.WriteBytes(piece.at, piece.bytes);
-  AskAndWriteMessage(rom, dialogs, kGiveMessageTitle, kGiveMessagePrompt, text, kTextField, form.Text12.text,
-                     "The give-Pokemon script was written at " + ToHexText(script) + ".");
+  write.CheckAndWrite();
+  AskAndWriteMessage(write, dialogs, kGiveMessageTitle, kGiveMessagePrompt, std::move(question));
   dialogs.Hide(WindowName::Form5);
 }
 

@@ -89,11 +89,11 @@ std::vector<ScriptPiece> GivePokemonPieces(std::int16_t species, std::uint8_t le
                                            RomOffset scriptOffset, RomOffset textOffset) {
   const auto at = [scriptOffset](int distance) { return OffsetPlus(scriptOffset, distance); };
   std::vector<ScriptPiece> pieces;
-  pieces.push_back({scriptOffset, BuildGivePokemonBody(species, level, item, scriptOffset, textOffset)});
-  pieces.push_back({at(kDeclinedBranchAt), BuildDeclinedBranch(scriptOffset)});
-  pieces.push_back({at(kNoRoomBranchAt), BuildNoRoomBranch(scriptOffset)});
-  pieces.push_back({at(kDeclinedTextAt), EncodeMessageText(kDeclinedText)});
-  pieces.push_back({at(kNoRoomTextAt), EncodeMessageText(kNoRoomText)});
+  pieces.push_back({"the body", scriptOffset, BuildGivePokemonBody(species, level, item, scriptOffset, textOffset)});
+  pieces.push_back({"the declined branch", at(kDeclinedBranchAt), BuildDeclinedBranch(scriptOffset)});
+  pieces.push_back({"the no-room branch", at(kNoRoomBranchAt), BuildNoRoomBranch(scriptOffset)});
+  pieces.push_back({"the declined text", at(kDeclinedTextAt), EncodeMessageText(kDeclinedText)});
+  pieces.push_back({"the no-room text", at(kNoRoomTextAt), EncodeMessageText(kNoRoomText)});
   return pieces;
 }
 

@@ -41,8 +41,9 @@ Bytes BuildGivePokemonBody(std::int16_t species, std::uint8_t level, std::int16_
 Bytes BuildDeclinedBranch(RomOffset scriptOffset);
 Bytes BuildNoRoomBranch(RomOffset scriptOffset);
 
-// Bytes to write at an offset.
+// Bytes to write at an offset, and what they are ("the body").
 struct ScriptPiece {
+  std::string_view name;
   RomOffset at;
   Bytes bytes;
 };

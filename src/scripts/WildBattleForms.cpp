@@ -1,7 +1,7 @@
 #include "scripts/WildBattleForms.h"
 
 #include "forms/Dialogs.h"
-#include "forms/InsertPlace.h"
+#include "forms/WriteRule.h"
 #include "rom/Failure.h"
 #include "rom/HexField.h"
 #include "rom/RomImage.h"
@@ -30,6 +30,9 @@ Battle ParseBattle(const WildBattleForm& form, const TextBox& levelField) {
 
 constexpr std::string_view kScriptField = "Offset";
 constexpr std::string_view kTextField = "Text Offset";
+constexpr std::string_view kScriptPiece = "the script";
+constexpr std::string_view kLoadAgain =
+    "Close the form and open it again from the Tools menu to take the lists of the ROM that is open now.";
 
 void Finish(WindowName window, Dialogs& dialogs) {
   dialogs.Message("Inserted");
@@ -38,11 +41,11 @@ void Finish(WindowName window, Dialogs& dialogs) {
 
 }  // namespace
 
-void LoadWildBattleLists(WildBattleForm& form, const std::vector<std::string>& speciesRows,
-                         const std::vector<std::string>& itemRows) {
-  form.Combo1.rows = speciesRows;
+void LoadWildBattleLists(WildBattleForm& form, const Form1& main, const std::vector<std::string>& itemRows) {
+  form.Combo1.rows = main.Combo1.rows;
   form.Combo2.Clear();
   form.Combo2.rows = itemRows;
+  form.filled.Fill(main);
 }
 
 void SetCombo1Selection(WildBattleForm& form, int index) {
@@ -66,40 +69,37 @@ void SetCombo3Selection(Form4& form, int index) {
   form.Text14.text = ToHexText(index);
 }
 
-void InsertWildBattle(Form3& form, RomImage& rom, Dialogs& dialogs) {
-  RomOffset script = 0;
-  Bytes bytes;
+void InsertWildBattle(Form3& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
+  RomWrite write(rom, main);
+  write.From(form.filled, FilledBeforeLastOpen(kLoadAgain));
   try {
     const Battle b = ParseBattle(form, form.Text1);
-    script = ParseInsertOffset(form.Text3.text, kScriptField);
-    bytes = BuildWildBattleScript(b.species, b.level, b.item, b.cry);
-    RequireInsideRom(rom, script, static_cast<std::int64_t>(bytes.size()), "the script", kScriptField,
-                     form.Text3.text);
+    write.Add({std::string(kScriptPiece), ParseInsertOffset(form.Text3.text, kScriptField),
+               BuildWildBattleScript(b.species, b.level, b.item, b.cry), std::string(kScriptField), form.Text3.text});
   } catch (const Failure& failure) {
-    throw failure.Then("Nothing was written.");
+    throw write.Stopped(failure);
   }
-  rom.WriteBytes(script, bytes);
+  write.CheckAndWrite();
   Finish(WindowName::Form3, dialogs);
 }
 
-void InsertWildBattle(Form4& form, RomImage& rom, Dialogs& dialogs) {
-  RomOffset script = 0;
-  RomOffset text = 0;
-  Bytes bytes;
+void InsertWildBattle(Form4& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
+  RomWrite write(rom, main);
+  write.From(form.filled, FilledBeforeLastOpen(kLoadAgain));
+  WritePiece message{"the message", 0, MessageTextBytes(""), std::string(kTextField), form.Text12.text};
   try {
     const Battle b = ParseBattle(form, form.Text14);
-    text = ParseInsertOffset(form.Text12.text, kTextField);
-    script = ParseInsertOffset(form.Text3.text, kScriptField);
-    bytes = BuildWildBattleMessageScript(b.species, b.level, b.item, b.cry, text);
-    RequireInsideRom(rom, script, static_cast<std::int64_t>(bytes.size()), "the script", kScriptField,
-                     form.Text3.text);
-    RequireInsideRom(rom, text, 2, "the message", kTextField, form.Text12.text);
+    message.at = ParseInsertOffset(form.Text12.text, kTextField);
+    const RomOffset script = ParseInsertOffset(form.Text3.text, kScriptField);
+    write.Add({std::string(kScriptPiece), script,
+               BuildWildBattleMessageScript(b.species, b.level, b.item, b.cry, static_cast<RomOffset>(message.at)),
+               std::string(kScriptField), form.Text3.text});
+    write.Expect(message);
   } catch (const Failure& failure) {
-    throw failure.Then("Nothing was written.");
+    throw write.Stopped(failure);
   }
-  rom.WriteBytes(script, bytes);
-  AskAndWriteMessage(rom, dialogs, kWildMessageTitle, kWildMessagePrompt, text, kTextField, form.Text12.text,
-                     "The wild battle script was written at " + ToHexText(script) + ".");
+  write.CheckAndWrite();
+  AskAndWriteMessage(write, dialogs, kWildMessageTitle, kWildMessagePrompt, std::move(message));
   Finish(WindowName::Form4, dialogs);
 }
 

@@ -5,10 +5,12 @@
 #include <vector>
 
 #include "forms/Controls.h"
+#include "forms/Form1.h"
 #include "scripts/BuilderForms.h"
 
 namespace tessarine {
 
+struct Form1;
 class RomImage;
 class Dialogs;
 
@@ -33,6 +35,10 @@ struct WildBattleForm {
   Button Command1{"Insert Teh Script"};
   Button Command2{.visible = false};  // holds the copy of the species list
   Button Command3{.visible = false};  // holds the copy of the item list
+
+  // The Open ROM after which the lists were copied: an insert takes its numbers from rows
+  // of the ROM that is open.
+  FilledAt filled;
 };
 
 inline constexpr std::string_view kScriptOffsetTip =
@@ -55,8 +61,7 @@ struct Form4 : WildBattleForm {
 
 // The load: Command2 copies the species rows, Command3 empties Combo2 and copies the item
 // rows. Nothing is selected, so every field keeps its initial text until a row is chosen.
-void LoadWildBattleLists(WildBattleForm& form, const std::vector<std::string>& speciesRows,
-                         const std::vector<std::string>& itemRows);
+void LoadWildBattleLists(WildBattleForm& form, const Form1& main, const std::vector<std::string>& itemRows);
 
 // Choosing a row puts its number into the fields behind the list: a species goes into both
 // pkmntxt and crytxt, a level into the hidden level field, an item into Text2.
@@ -66,11 +71,11 @@ void SetCombo3Selection(Form3& form, int index);
 void SetCombo3Selection(Form4& form, int index);
 
 // "Insert Teh Script". Form3 parses pkmntxt, Text1, crytxt, Text2, Text3; Form4 pkmntxt,
-// Text14, crytxt, Text2, Text12, Text3. Every parse, and the check that each piece lies in
-// the file, comes before the first write, so a failure there writes nothing and leaves the
-// form as it was. Then the script goes to Text3; Form4 asks for the message and writes it
-// at Text12. "Inserted", and the form closes.
-void InsertWildBattle(Form3& form, RomImage& rom, Dialogs& dialogs);
-void InsertWildBattle(Form4& form, RomImage& rom, Dialogs& dialogs);
+// Text14, crytxt, Text2, Text12, Text3. Every parse, and the write rule (forms/WriteRule.h)
+// for each piece, comes before the first write, so a failure there writes nothing and
+// leaves the form as it was. Then the script goes to Text3; Form4 asks for the message and
+// writes it at Text12. "Inserted", and the form closes.
+void InsertWildBattle(Form3& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
+void InsertWildBattle(Form4& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
 
 }  // namespace tessarine

@@ -16,7 +16,7 @@ void RunEditPokemonName(Form1& form, RomImage& rom, Dialogs& dialogs) {
   if (!entry) return;
   const auto name = dialogs.Input(kPokemonNamePrompt);
   if (!name) return;
-  EditPokemonName(rom, form.Label20, ParseLenient(*entry), *name);
+  EditPokemonName(rom, form, ParseLenient(*entry), *name);
   form.Combo1.Clear();
   FillSpeciesList(form, rom);
   SetCombo1Selection(form, 0);
@@ -28,7 +28,7 @@ void RunEditItemName(Session& session, Dialogs& dialogs) {
   const auto name = dialogs.Input(kItemNamePrompt);
   if (!name) return;
   RequireForm5Loaded(session);  // sets itemRecords
-  EditItemName(session.rom, session.form1.itemRecords, ParseLenient(*entry), *name);
+  EditItemName(session.rom, session.form1, ParseLenient(*entry), *name);
 }
 
 }  // namespace tessarine

@@ -11,27 +11,13 @@
 namespace tessarine {
 namespace {
 
-// The header's bytes as a person reads them: each byte one character (Latin-1), in UTF-8.
-std::string ShownCode(const std::string& code) {
-  std::string shown;
-  for (const char c : code) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x80) {
-      shown.push_back(c);
-    } else {
-      shown.push_back(static_cast<char>(0xC0 | (byte >> 6)));
-      shown.push_back(static_cast<char>(0x80 | (byte & 0x3F)));
-    }
-  }
-  return shown;
-}
-
 void ApplyProfile(Form1& form, const GameProfile& profile) {
   form.cowmoo = profile.cowmoo;
   const bool rs = profile.cowmoo == kFamilyRs;
   form.Command6.visible = rs;
   form.frlgl.visible = !rs;
   form.Combo3.enabled = rs;
+  form.Combo4.enabled = true;
   form.Command2.enabled = true;
   form.Command9.enabled = true;
   form.Command10.enabled = true;
@@ -44,6 +30,16 @@ void ApplyProfile(Form1& form, const GameProfile& profile) {
   form.regi3 = profile.regi3;
 }
 
+// What an unknown game is told. A known game of a revision whose tables are not known is
+// told which revision it is: it is no game of another revision.
+std::string UnsupportedRom(const GameIdentity& game) {
+  if (!IsKnownCode(game.code) || FindGameProfile(game) != nullptr) return "Unsupported ROM";
+  const std::string revision = game.revision < 0 ? "its header ends before its revision byte"
+                                                 : "its revision byte holds " + std::to_string(game.revision);
+  return "Unsupported ROM\n\nThis ROM's game code is " + game.code + ", and " + revision +
+         ". Tessarine does not know the tables of that revision, so it takes those of no other revision for it.";
+}
+
 // Steps 1 and 2 of every open: no list, no file, and nothing read before belongs to the ROM
 // that comes.
 void CloseRom(Form1& form, RomImage& rom) {
@@ -52,7 +48,6 @@ void CloseRom(Form1& form, RomImage& rom) {
   // From here on, what was read from the file before belongs to no open ROM: the tools read
   // again, and the event fields wait for an event to be picked.
   ++form.romOpenings;
-  form.eventFieldsMatchRom = false;
 }
 
 // The steps after the file dialog, on the file it gave.
@@ -63,20 +58,21 @@ void OpenRomFile(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string
   } catch (const Failure& failure) {
     dialogs.Message(failure.what());
   }
-  std::string code;
+  GameIdentity game;
   if (rom.IsOpen()) {
-    const Bytes header = rom.ReadBytes(kGameCodeOffset, 4);
-    if (header.size() == 4) {
-      code.assign(header.begin(), header.end());
-    } else {
+    game = ReadGameIdentity(rom);
+    if (game.code.empty()) {
       dialogs.Message("\"" + path + "\" is too short to be a ROM: it ends before the game code of its header.");
     }
   }
-  form.headtxt = code;
-  form.hdtxt.caption = ShownCode(code);
+  form.headtxt = game.code;
+  form.revision = game.revision;
+  // A file that cannot be written is told at once, not at the first write that fails.
+  form.hdtxt.caption = ShownIdentity(game) + (rom.IsOpen() && rom.IsReadOnly() ? " (read-only)" : "");
 
-  if (const auto profile = FindGameProfile(code)) {
+  if (const GameProfile* profile = FindGameProfile(game); profile != nullptr && profile->Opens()) {
     ApplyProfile(form, *profile);
+    form.tables.Fill(form);
     try {
       FillSpeciesList(form, rom);
       SetCombo1Selection(form, 0);
@@ -89,10 +85,12 @@ void OpenRomFile(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string
     return;
   }
 
-  dialogs.Message("Unsupported ROM");
+  dialogs.Message(UnsupportedRom(game));
   dialogs.Hide(WindowName::Form1);
   dialogs.Show(WindowName::Form9);
+  // No event list reads this ROM at the offsets of the game opened before.
   form.Combo3.enabled = false;
+  form.Combo4.enabled = false;
   form.Command10.enabled = false;
   form.Command9.enabled = false;
   form.Command6.enabled = false;

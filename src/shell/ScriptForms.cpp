@@ -14,12 +14,12 @@ const std::vector<std::string>& RequireForm5Loaded(Session& session) {
 
 void LoadForm3(Session& session) {
   session.form3 = Form3{};
-  LoadWildBattleLists(session.form3, session.form1.Combo1.rows, RequireForm5Loaded(session));
+  LoadWildBattleLists(session.form3, session.form1, RequireForm5Loaded(session));
 }
 
 void LoadForm4(Session& session) {
   session.form4 = Form4{};
-  LoadWildBattleLists(session.form4, session.form1.Combo1.rows, RequireForm5Loaded(session));
+  LoadWildBattleLists(session.form4, session.form1, RequireForm5Loaded(session));
 }
 
 void LoadForm5(Session& session) {

@@ -33,10 +33,10 @@ void LoadWindow(Session& session, Dialogs& dialogs, WindowName window) {
     case WindowName::Form3: LoadForm3(session); break;
     case WindowName::Form4: LoadForm4(session); break;
     case WindowName::Form5: LoadForm5(session); break;
-    case WindowName::Form8: LoadForm8(session.form8, session.form1.headtxt, dialogs); break;  // the code now
+    case WindowName::Form8: LoadForm8(session.form8, session.form1, dialogs); break;
     case WindowName::frmAbout: LoadAbout(session.about); break;
+    case WindowName::Form6: session.form6.filled.Fill(session.form1); break;
     case WindowName::Form1:
-    case WindowName::Form6:
     case WindowName::Form9:
       break;
   }

@@ -5,11 +5,10 @@
 
 #include <array>
 
-#include "rom/RomImage.h"
 #include "support/ByteOracle.h"
 #include "support/Failures.h"
 #include "support/FixtureRom.h"
-#include "support/ScriptedDialogs.h"
+#include "support/MainSession.h"
 
 namespace tessarine {
 namespace {
@@ -26,18 +25,20 @@ using Fields = std::array<const char*, 6>;  // postionleft to brailletop
 constexpr Fields kBare = {"&H", "&H", "&H", "&H", "&H", "&H"};
 constexpr std::size_t kRomSize = 0x800000;
 
-// The inserter on an open ROM of 8 MiB of 0xFF. Where the tests write, a filler stands, so
+// The inserter, opened on a ROM of 8 MiB of 0xFF. Where the tests write, a filler stands, so
 // that every byte written shows as a change.
-struct Inserter {
+struct Inserter : test::MainSession {
   test::FixtureRom fixture{"AXPE", kRomSize};
-  RomImage rom;
-  test::ScriptedDialogs dialogs;
   Form6 form;
 
   Inserter() {
     for (const std::size_t at : {0x700000, 0x700100, 0x7A0000}) fixture.PutBytes(at, Bytes(16, 0x11));
-    rom.Open(fixture.path());
+    Open(fixture.path());
+    form.filled.Fill(this->MainSession::form);
   }
+  ~Inserter() { rom.Close(); }
+  void Insert() { PressInsert(form, MainSession::form, rom, dialogs); }
+  void Load(Form6& into) { PressLoad(into, MainSession::form, rom); }
   void Type(const Fields& fields, const char* text, const char* braille, const char* script) {
     TextBox Form6::*const boxes[] = {&Form6::postionleft, &Form6::postiontop, &Form6::msgboxleft,
                                      &Form6::msgboxtop,   &Form6::brailleleft, &Form6::brailletop};
@@ -59,6 +60,7 @@ TEST(Form6Test, InsertWritesTheRecordAndItsScriptOrNothing) {
     MessageAnswer answer;
     std::vector<std::pair<std::size_t, const char*>> writes;
     const char* failure;
+    void (*before)(Inserter&) = nullptr;
   } rows[] = {
       {"all zero, A", kZero, "A", "&H700000", "&H700100", MessageAnswer::Yes,
        {{0x700000, "00 00 00 00 00 00 01 FF 00"}, {0x700100, "6A 5A 78 00 00 70 08 02"}}, ""},
@@ -75,15 +77,21 @@ TEST(Form6Test, InsertWritesTheRecordAndItsScriptOrNothing) {
       {"record past the end", kZero, "A", "&H7FFFF8", "&H700100", MessageAnswer::Yes, {},
        "Braille Offset: \"&H7FFFF8\": the braille record, 9 bytes from &H7FFFF8, would run past the end"},
       {"script before the start", kZero, "A", "&H700000", "&HFFFFFFF0", MessageAnswer::Yes, {},
-       "Script Offset: \"&HFFFFFFF0\": the script, 8 bytes from -16, would lie before the start of the ROM."},
+       "Script Offset: \"&HFFFFFFF0\" lies before the start of the ROM."},
+      {"script offset left at its start", kZero, "HELLO", "&H700000", "&H000000", MessageAnswer::Yes, {},
+       "Script Offset: \"&H000000\" lies inside the cartridge header, &H0 to &HBF, and would write over it."},
+      {"window of the ROM opened before", kZero, "A", "&H700000", "&H700100", MessageAnswer::Yes, {},
+       "This window was filled before the last Open ROM", [](Inserter& i) { i.Open(i.fixture.path()); }},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     Inserter inserter;
     inserter.Type(row.fields, row.text, row.braille, row.script);
+    if (row.before) row.before(inserter);
+    inserter.dialogs.messages.clear();
     inserter.dialogs.messageAnswers = {row.answer};
     const ByteOracle oracle(inserter.fixture.path());
-    const std::string failure = FailureOf([&] { PressInsert(inserter.form, inserter.rom, inserter.dialogs); });
+    const std::string failure = FailureOf([&] { inserter.Insert(); });
 
     ASSERT_EQ(inserter.dialogs.messages.size(), 1u);  // the question, and nothing after it
     EXPECT_EQ(inserter.dialogs.messages[0].text, "Are you sure that you wan't to insert?");
@@ -92,7 +100,7 @@ TEST(Form6Test, InsertWritesTheRecordAndItsScriptOrNothing) {
     if (*row.failure == '\0') {
       EXPECT_EQ(failure, "");
     } else {
-      EXPECT_THAT(failure, AllOf(HasSubstr(row.failure), HasSubstr("Nothing was inserted.")));
+      EXPECT_THAT(failure, AllOf(HasSubstr(row.failure), HasSubstr("Nothing was written.")));
     }
     std::vector<ByteRange> ranges;
     const Bytes now = oracle.Now();
@@ -125,10 +133,10 @@ TEST(Form6Test, LoadReadsTheRecordIntoTheFieldsAndApplies) {
   for (const auto& [bytes, shown] : rows) {
     Inserter inserter;
     inserter.fixture.PutBytes(0x600000, FromHex(bytes));
-    inserter.rom.Open(inserter.fixture.path());
+    inserter.Open(inserter.fixture.path());
     inserter.form.Shape1 = {1, 2, 3, 4};
     inserter.form.Text2.text = "&H600000";
-    PressLoad(inserter.form, inserter.rom);
+    inserter.Load(inserter.form);
     EXPECT_EQ(Shown(inserter.form), shown);
   }
 }
@@ -139,18 +147,18 @@ TEST(Form6Test, InsertThenLoadGivesCapitalsBackAndARefusedOffsetLoadsNothing) {
   Inserter inserter;
   inserter.Type({"31", "&H1F", "0", "5", "2", "3"}, "IT'S A\r\nTEST", "&H700000", "&H700100");
   inserter.dialogs.messageAnswers = {MessageAnswer::Yes};
-  PressInsert(inserter.form, inserter.rom, inserter.dialogs);
+  inserter.Insert();
 
   Form6 loaded;
   loaded.Text2.text = "&H700000";
-  PressLoad(loaded, inserter.rom);
+  inserter.Load(loaded);
   const std::string shown = "&H1F &H1F &H0 &H5 &H2 &H3 [IT,S A\r\nTEST] frame 0,0 240x159 text 16,24";
   EXPECT_EQ(Shown(loaded), shown);
   EXPECT_EQ(loaded.Label1.caption, "IT,S A\r\n\r\nTEST");
 
   loaded.Text2.text = "&HFFFFFFFF";
   loaded.Shape1 = {1, 2, 3, 4};
-  EXPECT_THAT(FailureOf([&] { PressLoad(loaded, inserter.rom); }), HasSubstr("Nothing was loaded."));
+  EXPECT_THAT(FailureOf([&] { inserter.Load(loaded); }), HasSubstr("Nothing was loaded."));
   EXPECT_EQ(Shown(loaded), shown);  // Restore ran first
 }
 

@@ -24,8 +24,8 @@ using Written = std::vector<std::pair<std::size_t, Bytes>>;  // each changed run
 // button does.
 struct Session : test::MainSession {
   FixtureRom fixture;
-  explicit Session(std::string_view code, const std::function<void(FixtureRom&)>& prepare = {})
-      : fixture(test::EventFixtureRom(code)) {
+  explicit Session(const GameIdentity& game, const std::function<void(FixtureRom&)>& prepare = {})
+      : fixture(test::EventFixtureRom(game)) {
     if (prepare) prepare(fixture);
     Open(fixture.path());
   }
@@ -54,10 +54,11 @@ void ExpectWritten(const ByteOracle& oracle, const Written& written) {
 // changes exactly the record's three fields and the two words; and a second pick of the
 // event, which reads back what the save wrote.
 TEST(EventWorkspaceTest, EachEventOfEachGameLoadsAndSavesItsOwnBytes) {
-  for (const char* code : {"AXVE", "AXPE", "BPRE", "BPGE"}) {
-    for (const test::FixtureEvent& e : test::FixtureEvents(code)) {
-      SCOPED_TRACE(std::string(code) + " " + std::string(e.name));
-      Session s(code);
+  for (const GameIdentity& game : test::AllGames()) {
+    const char* code = game.code.c_str();
+    for (const test::FixtureEvent& e : test::FixtureEvents(game)) {
+      SCOPED_TRACE(ShownIdentity(game) + " " + std::string(e.name));
+      Session s(game);
       s.PickEvent(e.index);
       const bool hasWords = e.firstAt >= 0;
       const int followed = !hasWords ? 0 : e.listFollowsSecond ? e.second : e.first;  // no words: as the open left it
@@ -141,7 +142,7 @@ TEST(EventWorkspaceTest, ASaveThatCannotRunIsRefusedBeforeAnyWrite) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.says);
-    Session s("AXVE", row.prepare);
+    Session s({"AXVE", 0}, row.prepare);
     s.PickEvent(4);  // Regiice, then Rayquaza
     EXPECT_THAT(test::FailureOf([&] { s.PickEvent(1); }), HasSubstr(row.loadFails));
     s.form.spritetxt.text = "&H1F2";
@@ -191,12 +192,14 @@ TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItL
        {{0x1008, {0x96}}}, {}},  // the cry becomes the species
       {"AXVE", 3, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla2.text = "&HXYZ"; }, {{0x15DE26, {0x33, 0x00}}},
        {"Cry: \"&HXYZ\" is no species number. Type one from &H0 to &H19B",
-        "The person record and the Pokemon word were saved. The Cry word was not."}},
+        "Written before it stopped: 22 bytes at &H38D880 (the person record) and 2 bytes at &H15DE26 (the Pokemon "
+        "word). Not written: the Cry word."}},
       {"AXVE", 3, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla2.text = "&HFFFF"; }, {{0x15DE26, {0x33, 0x00}}},
-       {"Cry: \"&HFFFF\" is no species number",
-        "The person record and the Pokemon word were saved. The Cry word was not."}},
+       {"Cry: \"&HFFFF\" is no species number", "(the Pokemon word). Not written: the Cry word."}},
       {"AXVE", 2, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla.text = "&H19C"; }, {},
-       {"Pokemon: \"&H19C\" is no species number", "The person record was saved. The Pokemon and Cry words were not."}},
+       {"Pokemon: \"&H19C\" is no species number",
+        "Written before it stopped: 22 bytes at &H391E78 (the person record). Not written: the Pokemon word and the "
+        "Cry word."}},
       {"AXVE", 1, [](FixtureRom& f) { Lay(f, 0x38EE50, kScript, kBattle); }, pick, {{kScript + 3, {0xAB, 0x00}}},
        {"The Cry word was left as it is: at &HB00008 stands &HA130, which is no species number (&H0 to &H19B)" + tail +
         "The person record and the Pokemon word were saved."}},
@@ -223,7 +226,7 @@ TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItL
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(std::string(row.code) + " " + std::to_string(row.event) + (row.says.empty() ? "" : row.says[0]));
-    Session s(row.code, row.prepare);
+    Session s({row.code, 0}, row.prepare);
     s.PickEvent(row.event);
     SetCombo1Selection(s.form, 0x33);
     const ByteOracle oracle(s.fixture.path());
@@ -238,7 +241,7 @@ TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItL
 
 TEST(EventWorkspaceTest, MovementTypesFollowTheBehaviourByteAndASaveKeepsIt) {
   for (const auto& [behaviour, listRow] : {std::pair{0x00, 0}, {0x0A, 10}, {0x0B, 11}, {0x0C, 3}, {0x51, 3}}) {
-    Session s("AXVE", [&](FixtureRom& f) { f.PutByte(0x38EE50 + 9, static_cast<std::uint8_t>(behaviour)); });
+    Session s({"AXVE", 0}, [&](FixtureRom& f) { f.PutByte(0x38EE50 + 9, static_cast<std::uint8_t>(behaviour)); });
     SetCombo2Selection(s.form, 3);  // a byte with no row leaves the list here
     s.PickEvent(1);
     EXPECT_EQ(Fields(s.form)[1] + Fields(s.form)[2], ToHexText(std::uint8_t(behaviour)) + std::to_string(listRow));
@@ -249,7 +252,7 @@ TEST(EventWorkspaceTest, MovementTypesFollowTheBehaviourByteAndASaveKeepsIt) {
 }
 
 TEST(EventWorkspaceTest, ALoadBeforeAnyPickAsksForOneAndAnIndexThatNamesNoRowChangesNothing) {
-  Session s("AXVE");
+  Session s({"AXVE", 0});
   EXPECT_EQ(test::FailureOf([&] { LoadPerson(s.form, s.rom, s.dialogs); }),
             "No event is picked, so there is no person record to read. Pick an event in the list first.");
   s.PickEvent(2);

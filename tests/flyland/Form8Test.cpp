@@ -12,6 +12,7 @@
 #include "support/ByteOracle.h"
 #include "support/Failures.h"
 #include "support/FixtureRom.h"
+#include "support/MainSession.h"
 #include "support/ScriptedDialogs.h"
 
 namespace tessarine {
@@ -30,36 +31,42 @@ using ::testing::IsEmpty;
 // Each game's record at its own place: bank at +2, level at +3, X at +4, Y at +6. The
 // records beside it hold other bytes, so a record taken from the wrong place shows.
 TEST(FlyRecordsTest, EachGameReadsItsRecordFromItsOwnTable) {
-  const std::tuple<const char*, int, std::size_t> cases[] = {{"AXPE", 0, 0x3E5A86},  {"AXPE", 19, 0x3E5B1E},
-                                                             {"AXVE", 17, 0x3E5AB6}, {"BPRE", 8, 0x3EEC36},
-                                                             {"BPGE", 0, 0x3EEA32},  {"BPEJ", 3, 0x57B132}};
-  for (const auto& [code, index, offset] : cases) {
-    SCOPED_TRACE(std::string(code) + " " + std::to_string(index));
-    FixtureRom fixture(code);
+  const std::tuple<GameIdentity, int, std::size_t> cases[] = {
+      {{"AXPE", 0}, 0, 0x3E5A86},  {{"AXPE", 0}, 19, 0x3E5B1E}, {{"AXVE", 0}, 17, 0x3E5AB6}, {{"BPRE", 0}, 8, 0x3EEC36},
+      {{"BPGE", 0}, 0, 0x3EEA32},  {{"BPEJ", 0}, 3, 0x57B132},  {{"AXVE", 1}, 0, 0x3E5A4A},  {{"AXVE", 2}, 17, 0x3E5AD2},
+      {{"AXPE", 2}, 19, 0x3E5B3E}, {{"BPRE", 1}, 8, 0x3EECA6},  {{"BPGE", 1}, 0, 0x3EEAA2}};
+  for (const auto& [game, index, offset] : cases) {
+    SCOPED_TRACE(ShownIdentity(game) + " " + std::to_string(index));
+    FixtureRom fixture(game.code);
     fixture.PutBytes(offset - 8, Bytes(24, 0x99)).PutBytes(offset, {0, 0, 0x1A, 0, 0x2B, 0, 0x3C, 0});
     RomImage rom;
     rom.Open(fixture.path());
-    const auto record = ReadFlyRecord(rom, code, index);
+    const auto record = ReadFlyRecord(rom, game, index);
     ASSERT_TRUE(record.has_value());
     EXPECT_EQ(BankText(record->bank) + LevelText(record->level), "B:1AL:0");
     EXPECT_EQ(record->X, 0x2B);
     EXPECT_EQ(record->Y, 0x3C);
   }
-  RomImage closed;  // an unknown code has no table: not even a closed file is asked
-  EXPECT_FALSE(ReadFlyRecord(closed, "axpe", 0).has_value());
-  EXPECT_THAT(FailureOf([&] { ReadFlyRecord(closed, "BPRE", 20); }), HasSubstr("no fly record 20"));
+  RomImage closed;  // an unknown game has no table: not even a closed file is asked
+  EXPECT_FALSE(ReadFlyRecord(closed, {"axpe", 0}, 0).has_value());
+  EXPECT_FALSE(ReadFlyRecord(closed, {"BPRE", 2}, 0).has_value());
+  EXPECT_THAT(FailureOf([&] { ReadFlyRecord(closed, {"BPRE", 0}, 20); }), HasSubstr("no fly record 20"));
 }
 
 TEST(Form8Test, TheWindowOpensByTheGameCode) {
   const std::tuple<const char*, bool, MapPicture, const char*, bool> cases[] = {
       // code, kanto on show, picture, Text1 and HScroll1.Max, controls of a record enabled
       {"AXVE", false, MapPicture::Picture2, "&H14 10", true}, {"BPEJ", false, MapPicture::Picture3, "&H14 10", true},
-      {"BPGE", true, MapPicture::Picture4, "&H18 12", true},  {"bpre", false, MapPicture::Picture2, "&H14 10", false}};
+      {"BPGE", true, MapPicture::Picture4, "&H18 12", true},  {"bpre", false, MapPicture::Picture2, "&H14 10", false},
+      {"AXVE 3", false, MapPicture::Picture2, "&H14 10", false}};  // a revision of no known table
   for (const auto& [code, kanto, picture, across, enabled] : cases) {
     SCOPED_TRACE(code);
     Form8 form;
     ScriptedDialogs dialogs;
-    LoadForm8(form, code, dialogs);
+    Form1 main;
+    main.headtxt = std::string(code).substr(0, 4);
+    main.revision = code[4] == ' ' ? code[5] - '0' : 0;
+    LoadForm8(form, main, dialogs);
     EXPECT_EQ(form.kanto.visible, kanto);
     EXPECT_EQ(form.hoenn.visible, !kanto);
     EXPECT_EQ(form.Picture2.picture, picture);
@@ -79,18 +86,19 @@ TEST(Form8Test, TheWindowOpensByTheGameCode) {
 struct Wingfall : ::testing::Test {
   static constexpr std::size_t kFirst = 0x3E5A2E;
   test::FixtureRom fixture = test::FixtureRom::Ruby();
-  RomImage rom;
-  ScriptedDialogs dialogs;
+  test::MainSession s;
+  RomImage& rom = s.rom;
+  ScriptedDialogs& dialogs = s.dialogs;
   Form8 form;
-  std::string headtxt = "AXVE";
 
   void SetUp() override {
     fixture.PutBytes(kFirst, {0x11, 0x22, 0x1A, 0x00, 0x05, 0x66, 0x07, 0x88});
     fixture.PutBytes(0x3E5AB6, {0, 0, 0x02, 0x0C, 0x21, 0, 0x13, 0});
-    rom.Open(fixture.path());
-    LoadForm8(form, headtxt, dialogs);
+    s.Open(fixture.path());
+    LoadForm8(form, s.form, dialogs);
   }
-  void Save() { PressSavebutton(form, rom, headtxt, dialogs); }
+  void TearDown() override { rom.Close(); }
+  void Save() { PressSavebutton(form, rom, s.form, dialogs); }
   // The fields and the landing markers, as "B:1A L:0 &H5 &H7 at 80,112".
   std::string Landing() const {
     EXPECT_TRUE(form.Shape2.visible && form.Image1.visible);
@@ -101,9 +109,9 @@ struct Wingfall : ::testing::Test {
 };
 
 TEST_F(Wingfall, LoadRightAfterOpeningTakesRecord0AndAPickLoadsAtOnce) {
-  PressLoadbutton(form, rom, headtxt);
+  PressLoadbutton(form, rom, s.form);
   EXPECT_EQ(Landing(), "B:1A L:0 &H5 &H7 at 80,112");
-  SelectLocation(form, rom, headtxt, LocationListName::hoenn, 17);
+  SelectLocation(form, rom, s.form, FlyList::hoenn, 17);
   EXPECT_EQ(form.hoenn.text, "Ever Grande City");
   EXPECT_EQ(form.mapnumber, "17");
   EXPECT_EQ(Landing(), "B:2 L:C &H21 &H13 at 528,304");
@@ -134,7 +142,7 @@ TEST_F(Wingfall, SaveWritesTheTypedTileAndShowsWhatTheRomNowHoldsOrNothing) {
     const std::string failure = FailureOf([&] { Save(); });
     EXPECT_EQ(oracle.Changes(), row.changed);
     if (row.changed.empty()) {
-      EXPECT_THAT(failure, AllOf(HasSubstr(row.shown), HasSubstr("Nothing was saved.")));
+      EXPECT_THAT(failure, AllOf(HasSubstr(row.shown), HasSubstr("Nothing was written.")));
       EXPECT_EQ(form.XXt.text + form.YYt.text, std::string(row.x) + row.y);
       EXPECT_THAT(dialogs.messages, IsEmpty());
     } else {

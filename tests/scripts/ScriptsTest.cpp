@@ -13,6 +13,7 @@
 #include "support/ByteOracle.h"
 #include "support/Failures.h"
 #include "support/FixtureRom.h"
+#include "support/MainSession.h"
 #include "support/ScriptedDialogs.h"
 
 namespace tessarine {
@@ -159,18 +160,17 @@ constexpr std::size_t kT = 0x7A0000;  // text offset
 
 // A ROM whose free space at kS and kT holds 0x11, so that every byte a builder writes
 // there shows as a change, and forms filled in as a person would.
-struct Builder {
+struct Builder : test::MainSession {
   test::FixtureRom fixture = test::FixtureRom::Sapphire();
-  RomImage rom;
-  ScriptedDialogs dialogs;
   Form3 form3;
   Form4 form4;
   Form5 form5;
 
   Builder() {
     fixture.PutBytes(kS, Bytes(0x100, 0x11)).PutBytes(kT, Bytes(0x10, 0x11));
-    rom.Open(fixture.path());
-    const auto fill = [](auto& form, int species, int item) {
+    Open(fixture.path());
+    const auto fill = [this](auto& form, int species, int item) {
+      form.filled.Fill(this->form);
       form.Combo1.rows.resize(412);
       form.Combo2.rows.resize(347);
       SetCombo1Selection(form, species);
@@ -183,6 +183,10 @@ struct Builder {
     fill(form5, 0x176, 0);
     form4.Text12.text = form5.Text12.text = "&H7A0000";
   }
+  ~Builder() { rom.Close(); }
+  void Insert(Form3& f) { InsertWildBattle(f, form, rom, dialogs); }
+  void Insert(Form4& f) { InsertWildBattle(f, form, rom, dialogs); }
+  void Insert(Form5& f) { InsertGivePokemon(f, form, rom, dialogs); }
   std::string At(const ByteOracle& oracle, std::size_t at, std::size_t count) const {
     const Bytes now = oracle.Now();
     return test::ToHex(Bytes(now.begin() + static_cast<long>(at), now.begin() + static_cast<long>(at + count)));
@@ -195,7 +199,7 @@ struct Builder {
 TEST(ScriptBuildersTest, AWildBattleIsThirteenBytesAndListsAsFiveLines) {
   Builder b;
   const ByteOracle oracle(b.fixture.path());
-  InsertWildBattle(b.form3, b.rom, b.dialogs);
+  b.Insert(b.form3);
   EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 13}}));
   EXPECT_EQ(b.At(oracle, kS, 13), "6A 5A B6 19 00 05 00 00 30 A1 19 00 02");
   EXPECT_THAT(b.dialogs.MessageTexts(), ElementsAre("Inserted"));
@@ -209,7 +213,7 @@ TEST(ScriptBuildersTest, AWildBattleWithAMessageWritesTheScriptThenAsksThenWrite
     b.form4.crytxt.text = "&HFFFF";  // typed over the list's number
     b.dialogs.inputAnswers = {answer};
     const ByteOracle oracle(b.fixture.path());
-    InsertWildBattle(b.form4, b.rom, b.dialogs);
+    b.Insert(b.form4);
     EXPECT_EQ(b.At(oracle, kS, 20), "6A 5A 0F 00 00 7A 08 09 06 B6 19 00 05 8B 00 30 A1 FF FF 02");
     EXPECT_EQ(b.At(oracle, kT, 5), answer ? "BB BC FF 00 11" : "FF 00 11 11 11");  // closed box: FF 00 only
     EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 20}, {kT, answer ? 4u : 2u}}));
@@ -226,7 +230,7 @@ TEST(ScriptBuildersTest, AGivePokemonBlockOverlapsAsLaidOutAndEachPointerHoldsIt
   Builder b;
   b.dialogs.inputAnswers = {"AB"};
   const ByteOracle oracle(b.fixture.path());
-  InsertGivePokemon(b.form5, b.rom, b.dialogs);
+  b.Insert(b.form5);
   // The body's last two bytes are the declined branch's first two; the gaps keep their bytes;
   // the declined text shows ten bytes and then the no-room text.
   EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 83}, {kS + 93, 9}, {kS + 103, 48}, {kT, 4}}));
@@ -271,7 +275,10 @@ TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNoth
        "Offset to insert new text: \"&H0\""},
       {"script past the end", [](Builder& b) { b.form3.Text3.text = "&HFFFFF4"; }, 3,
        "the script, 13 bytes from &HFFFFF4, would run past the end of the ROM, which is &H1000000 bytes long"},
-      {"block past the end", [](Builder& b) { b.form5.Text3.text = "&HFFFF6A"; }, 5, "the script, 151 bytes from"},
+      {"block past the end", [](Builder& b) { b.form5.Text3.text = "&HFFFF6A"; }, 5,
+       "the no-room text, 38 bytes from &HFFFFDB, would run past the end"},
+      {"window of the ROM opened before", [](Builder& b) { b.Open(b.fixture.path()); }, 5,
+       "This window was filled before the last Open ROM"},
       {"no room for FF 00", [](Builder& b) { b.form4.Text12.text = "&HFFFFFF"; }, 4,
        "Text Offset: \"&HFFFFFF\": the message, 2 bytes"},
       {"question past the end", [](Builder& b) { b.form5.Text12.text = "&HFFFFFF"; }, 5, "the question, 2 bytes"},
@@ -281,9 +288,9 @@ TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNoth
     r.set(b);
     const ByteOracle oracle(b.fixture.path());
     const std::string said = FailureOf([&] {
-      if (r.form == 3) InsertWildBattle(b.form3, b.rom, b.dialogs);
-      if (r.form == 4) InsertWildBattle(b.form4, b.rom, b.dialogs);
-      if (r.form == 5) InsertGivePokemon(b.form5, b.rom, b.dialogs);
+      if (r.form == 3) b.Insert(b.form3);
+      if (r.form == 4) b.Insert(b.form4);
+      if (r.form == 5) b.Insert(b.form5);
     });
     EXPECT_THAT(said, HasSubstr(r.says)) << r.field;
     EXPECT_THAT(said, HasSubstr("Nothing was written.")) << r.field;
@@ -293,7 +300,7 @@ TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNoth
   }
   Builder b;  // the first offset behind the header is free to use
   b.form3.Text3.text = "&HC0";
-  InsertWildBattle(b.form3, b.rom, b.dialogs);
+  b.Insert(b.form3);
   EXPECT_EQ(b.dialogs.windowEvents.size(), 1u);
 }
 
@@ -302,10 +309,10 @@ TEST(ScriptBuildersTest, AMessageThatDoesNotFitIsRefusedAfterTheScriptAndSaysSo)
   b.form4.Text12.text = "&HFFFFFD";  // room for FF 00, not for "AB" and FF 00
   b.dialogs.inputAnswers = {"AB"};
   const ByteOracle oracle(b.fixture.path());
-  EXPECT_EQ(FailureOf([&] { InsertWildBattle(b.form4, b.rom, b.dialogs); }),
-            "The wild battle script was written at &H700000. Its message was not written: Text Offset: "
-            "\"&HFFFFFD\": the message, 4 bytes from &HFFFFFD, would run past the end of the ROM, which is "
-            "&H1000000 bytes long.");
+  EXPECT_EQ(FailureOf([&] { b.Insert(b.form4); }),
+            "Text Offset: \"&HFFFFFD\": the message, 4 bytes from &HFFFFFD, would run past the end of the ROM, "
+            "which is &H1000000 bytes long. Written before it stopped: 20 bytes at &H700000 (the script). Not "
+            "written: 4 bytes at &HFFFFFD (the message).");
   EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 20}}));
   EXPECT_THAT(b.dialogs.windowEvents, IsEmpty());  // the form stays open
 }

@@ -25,10 +25,12 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using Window = test::ScriptedDialogs::WindowEvent;
 
-// What an open leaves of the main window, in one line: headtxt, rom, cowmoo, Label20, Label1, [grou],
-// then each control that an open switches, shown (+) or hidden (-), and "x" when disabled.
+// What an open leaves of the main window, in one line: the "RomCode:" line, rom, cowmoo, Label20,
+// Label1, [grou], then each control that an open switches, shown (+) or hidden (-), and "x" when
+// disabled.
 std::string OpenState(const Form1& f) {
-  std::string line = f.headtxt + " " + f.rom + " " + f.cowmoo + " " + f.Label20 + " " + f.Label1 + " [" + f.grou + "]";
+  std::string line = f.hdtxt.caption + " " + f.rom + " " + f.cowmoo + " " + f.Label20 + " " + f.Label1 + " [" +
+                     f.grou + "]";
   const std::tuple<const char*, bool, bool> controls[] = {
       {"Command6", f.Command6.visible, f.Command6.enabled}, {"frlgl", f.frlgl.visible, f.frlgl.enabled},
       {"Combo3", f.Combo3.visible, f.Combo3.enabled},       {"Combo4", f.Combo4.visible, f.Combo4.enabled},
@@ -40,23 +42,31 @@ std::string OpenState(const Form1& f) {
   return line;
 }
 
-// One session opens each game in turn. FireRed and LeafGreen keep the grou of the game before,
-// which nothing of theirs reads.
-TEST(OpenRomTest, AKnownGameSetsTheWindowUpForItsFamily) {
-  const char* states[] = {
-      "AXVE Loaded rs &H1F716C &H38EE50 [&H38D880] Command6+ frlgl- Combo3+ Combo4- Command2+ Command9+ Command10+",
-      "AXPE Loaded rs &H1F70FC &H38EDE0 [&H38D810] Command6+ frlgl- Combo3+ Combo4- Command2+ Command9+ Command10+",
-      "BPRE Loaded frlg &H245EE0 &H3B27D4 [&H38D810] Command6- frlgl+ Combo3-x Combo4+ Command2+ Command9+ Command10+",
-      "BPGE Loaded frlg &H245EBC &H3B27B4 [&H38D810] Command6- frlgl+ Combo3-x Combo4+ Command2+ Command9+ Command10+",
-      "AXVE Loaded rs &H1F716C &H38EE50 [&H38D880] Command6+ frlgl- Combo3+ Combo4- Command2+ Command9+ Command10+",
+// One session opens each game and revision in turn. FireRed and LeafGreen keep the grou of the
+// game before, which nothing of theirs reads.
+TEST(OpenRomTest, AKnownGameSetsTheWindowUpForItsFamilyAndRevision) {
+  const std::string rs = " Command6+ frlgl- Combo3+ Combo4- Command2+ Command9+ Command10+";
+  const std::string frlg = " Command6- frlgl+ Combo3-x Combo4+ Command2+ Command9+ Command10+";
+  const std::pair<GameIdentity, std::string> opens[] = {
+      {{"AXVE", 0}, "AXVE Loaded rs &H1F716C &H38EE50 [&H38D880]" + rs},
+      {{"AXPE", 0}, "AXPE Loaded rs &H1F70FC &H38EDE0 [&H38D810]" + rs},
+      {{"BPRE", 0}, "BPRE Loaded frlg &H245EE0 &H3B27D4 [&H38D810]" + frlg},
+      {{"BPGE", 0}, "BPGE Loaded frlg &H245EBC &H3B27B4 [&H38D810]" + frlg},
+      {{"AXVE", 1}, "AXVE 1.1 Loaded rs &H1F7184 &H38EE68 [&H38D898]" + rs},
+      {{"AXVE", 2}, "AXVE 1.2 Loaded rs &H1F7184 &H38EE68 [&H38D898]" + rs},
+      {{"AXPE", 1}, "AXPE 1.1 Loaded rs &H1F7114 &H38EDF8 [&H38D828]" + rs},
+      {{"BPRE", 1}, "BPRE 1.1 Loaded frlg &H245F50 &H3B2844 [&H38D828]" + frlg},
+      {{"BPGE", 1}, "BPGE 1.1 Loaded frlg &H245F2C &H3B2824 [&H38D828]" + frlg},
+      {{"AXPE", 2}, "AXPE 1.2 Loaded rs &H1F7114 &H38EDF8 [&H38D828]" + rs},
+      {{"AXVE", 0}, "AXVE Loaded rs &H1F716C &H38EE50 [&H38D880]" + rs},
   };
   test::MainSession s;
-  for (const std::string state : states) {
-    FixtureRom fixture = EventFixtureRom(state.substr(0, 4));
+  for (const auto& [game, state] : opens) {
+    FixtureRom fixture = EventFixtureRom(game);
     s.Open(fixture.path());
     const Form1& f = s.form;
     EXPECT_EQ(OpenState(f), state);
-    ASSERT_EQ(f.Combo1.rows.size(), 412u);  // the names at the game's own offset in the fixture
+    ASSERT_EQ(f.Combo1.rows.size(), 412u);  // the names at the revision's own offset in the fixture
     EXPECT_EQ(f.Combo1.rows[0], "000 - " + FixtureSpeciesName(0));
     EXPECT_EQ(f.Combo1.rows[411], "19B - " + FixtureSpeciesName(411));
     EXPECT_EQ(f.Combo1.selected, 0);
@@ -65,19 +75,29 @@ TEST(OpenRomTest, AKnownGameSetsTheWindowUpForItsFamily) {
   EXPECT_THAT(s.dialogs.messages, IsEmpty());
 }
 
-// After Ruby, a file of no known game, then Ruby again: that enables all but Command6.
+// After Ruby, a file of no known game or of a revision with no known tables, then Ruby again:
+// that enables all but Command6.
 TEST(OpenRomTest, AnUnknownGameHidesTheMainWindowAndAsksForItsTables) {
-  for (const char* code : {"axve", "AXV", "AXVEE", "BPEJ", "", " AXVE"}) {
-    EXPECT_FALSE(FindGameProfile(code).has_value()) << '"' << code << '"';  // the exact code only
+  for (const GameIdentity& game : std::initializer_list<GameIdentity>{
+           {"axve", 0}, {"AXV", 0}, {"AXVEE", 0}, {"", 0}, {" AXVE", 0}, {"AXVE", 3}, {"BPRE", 2}, {"AXVE", -1}}) {
+    EXPECT_EQ(FindGameProfile(game), nullptr) << '"' << game.code << "\" " << game.revision;  // the exact code only
   }
+  EXPECT_FALSE(FindGameProfile({"BPEJ", 0})->Opens());  // known to the starter editor and Wingfall only
   FixtureRom ruby = EventFixtureRom("AXVE");
   FixtureRom emerald = FixtureRom::Emerald(), tooShort = FixtureRom::TooShort();
+  FixtureRom ruby13 = test::FixtureRom("AXVE", FixtureRom::kSize, 3), noRevision("AXVE", 0xBC);
   const struct {
     std::string path;
     std::string code;
     std::vector<std::string> messages;
   } rows[] = {
       {emerald.path(), "BPEJ", {"Unsupported ROM"}},
+      {ruby13.path(), "AXVE 1.3",
+       {"Unsupported ROM\n\nThis ROM's game code is AXVE, and its revision byte holds 3. Tessarine does not know the "
+        "tables of that revision, so it takes those of no other revision for it."}},
+      {noRevision.path(), "AXVE",
+       {"Unsupported ROM\n\nThis ROM's game code is AXVE, and its header ends before its revision byte. Tessarine "
+        "does not know the tables of that revision, so it takes those of no other revision for it."}},
       {tooShort.path(), "",
        {"\"" + tooShort.path() + "\" is too short to be a ROM: it ends before the game code of its header.",
         "Unsupported ROM"}},
@@ -94,7 +114,7 @@ TEST(OpenRomTest, AnUnknownGameHidesTheMainWindowAndAsksForItsTables) {
     EXPECT_EQ(s.dialogs.MessageTexts(), row.messages);
     EXPECT_THAT(s.dialogs.windowEvents, ElementsAre(Window{WindowName::Form1, false}, Window{WindowName::Form9, true}));
     EXPECT_THAT(s.form.Combo1.rows, IsEmpty());
-    EXPECT_EQ(OpenState(s.form), row.code + rubyState + "x Combo4- Command2+ Command9+x Command10+x");
+    EXPECT_EQ(OpenState(s.form), row.code + rubyState + "x Combo4-x Command2+ Command9+x Command10+x");
     s.Open(ruby.path());
     EXPECT_EQ(OpenState(s.form), "AXVE" + rubyState + " Combo4- Command2+ Command9+ Command10+");
   }
@@ -212,7 +232,7 @@ TEST(NameEditorMenuTest, TheTwoAnswersWriteTheEncodedNameAndNothingElse) {
        "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
       {"BPRE", MenuEntry::mnuediten, "&H2", "ééééééééééééééé", {{0x3DB080, 14}},  // cut in characters, not in bytes
        "1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B"},
-      {"BPEJ", MenuEntry::mnuediten, "&H2", "A", {}, "", "", "Item records offset: \"&H24SEE0\" is not",
+      {"BPEJ", MenuEntry::mnuediten, "&H2", "A", {}, "", "", "Item Names: \"&H24SEE0\" is not",
        {"&H245EE0", "&H24SEE0"}},
   };
   for (const Case& c : cases) {
@@ -247,8 +267,13 @@ TEST(NameEditorMenuTest, TheTwoAnswersWriteTheEncodedNameAndNothingElse) {
 TEST(NameEditorMenuTest, APlaceBeyondTheLastOffsetIsRefusedOnADeviceToo) {
   RomImage rom;
   rom.Open(test::EndlessDevice());  // every place lies inside it
-  EXPECT_EQ(test::FailureOf([&] { EditPokemonName(rom, "&H10", 0x1745D174, "A"); }),  // &H10 + 11 * entry wraps to 12
-            "Pokemon: \"&H1745D174\": its name in the table at &H10, 11 bytes from 4294967308, would lie beyond "
+  Form1 main;
+  main.headtxt = std::string(4, '\0');  // what its header holds
+  main.revision = 0;
+  main.tables.Fill(main);
+  main.Label20 = "&HC0";
+  EXPECT_EQ(test::FailureOf([&] { EditPokemonName(rom, main, 0x1745D174, "A"); }),  // wraps to &HBC in 32 bits
+            "Pokemon: \"&H1745D174\": its name in the table at &HC0, 11 bytes from 4294967484, would lie beyond "
             "&H7FFFFFFF, the last offset of a ROM. Nothing was written.");
 }
 

@@ -23,6 +23,7 @@
 #include "support/Failures.h"
 #include "support/ReadOnlyFile.h"
 #include "support/ScriptedDialogs.h"
+#include "support/WriteLimit.h"
 #include "text/Braille2Text.h"
 #include "text/Table2Text.h"
 #include "text/mdlTextSapp.h"
@@ -43,11 +44,11 @@ using Ranges = std::vector<ByteRange>;
 // Every table of the five games lies below 6 MiB; the fixtures' event scripts move down to 5 MiB.
 constexpr std::int64_t kRomSize = 0x600000;
 
-test::FixtureRom RoadRom(std::string_view code) {
-  test::FixtureRom rom(code, kRomSize);
-  if (code == "BPEJ") return rom;  // Emerald: only the starter editor and Wingfall know it
-  test::PutSpeciesNames(rom, test::SpeciesTableOffset(code));
-  std::vector<test::FixtureEvent> events = test::FixtureEvents(code);
+test::FixtureRom RoadRom(const GameIdentity& game) {
+  test::FixtureRom rom(game.code, kRomSize, game.revision);
+  if (!FindGameProfile(game) || !FindGameProfile(game)->Opens()) return rom;  // a game that Open ROM does not take
+  test::PutSpeciesNames(rom, test::OffsetsOf(game).speciesNames);
+  std::vector<test::FixtureEvent> events = test::FixtureEvents(game);
   for (test::FixtureEvent& e : events) {
     e.record.scriptPointer -= 0x500000;
     if (e.script >= 0xA00000) e.script -= 0x500000;
@@ -122,13 +123,13 @@ struct User {
     const ByteRange text = From(s.form5.Text12.text, 0, std::ssize(EncodeMessageText(message)) + 2);
     if (window == WindowName::Form3) {
       may = {From(at, 0, 13)};
-      InsertWildBattle(s.form3, s.rom, ui);
+      InsertWildBattle(s.form3, s.form1, s.rom, ui);
     } else if (window == WindowName::Form4) {
       may = {From(at, 0, 20), text};
-      InsertWildBattle(s.form4, s.rom, ui);
+      InsertWildBattle(s.form4, s.form1, s.rom, ui);
     } else {  // the body and the declined branch over its last two bytes, the no-room branch, the two texts
       may = {From(at, 0, 83), From(at, 93, 9), From(at, 103, 48), text};
-      InsertGivePokemon(s.form5, s.rom, ui);
+      InsertGivePokemon(s.form5, s.form1, s.rom, ui);
     }
   }
   // Only the bytes the encoder gives for the name as cut or filled: "[PK]" is four characters and one byte.
@@ -165,7 +166,7 @@ struct User {
          ListIntoText4(s.form1, s.rom, ui, [&](double) { return ++reports < 2; });
        }},
       {"save the event", true, [this](Ranges& may) {
-         const auto events = test::FixtureEvents(s.form1.cowmoo == "rs" ? "AXVE" : "BPRE");
+         const auto events = test::FixtureEvents({s.form1.cowmoo == "rs" ? "AXVE" : "BPRE", 0});
          const auto& event = events[std::min<std::size_t>(std::stoul(s.form1.whee), events.size() - 1)];
          const std::string& script = s.form1.scriptpointxt.text;
          may = {From(s.form1.personOffset, 0, PersonRecord::kSize), From(script, event.firstAt, event.firstAt < 0 ? 0 : 2),
@@ -180,26 +181,27 @@ struct User {
          if (careful || Die(4) > 0) test::FailureOf([this] { Load(WindowName::Form2); });
          Pick(s.form2, s.form2.Combo1, SetCombo1Selection);
          s.form2.balltxt3.text = Number(0x10000);
-         for (const RomOffset ball : FindStarterOffsets(s.form1.headtxt).value_or(StarterOffsets{})) {
-           may.push_back(From(Hex(ball), 0, 2));
+         if (const GameProfile* game = ProfileOf(s.form1)) {
+           for (const RomOffset ball : game->starters) may.push_back(From(Hex(ball), 0, 2));
          }
          PressSave(s.form2, s.form1, s.rom, ui);
        }},
       {"rename a Pokemon", true, [this](Ranges& may) { Rename(false, may); }},
       {"rename an item", true, [this](Ranges& may) { Rename(true, may); }},
       {"save a landing tile", true, [this](Ranges& may) {
-         const FlyTable* table = FindFlyTable(s.form1.headtxt);
+         const auto table = FindFlyTable(IdentityOf(s.form1));
          const int index = Die(kFlyRecordCount);
          test::FailureOf([&] {  // the window stands also where its load fails
            Load(WindowName::Form8);
-           SelectLocation(s.form8, s.rom, s.form1.headtxt, table ? table->list : LocationListName::hoenn, index);
+           SelectLocation(s.form8, s.rom, s.form1, table ? table->list : FlyList::hoenn, index);
          });
          Type({&s.form8.XXt, &s.form8.YYt}, 0x100);
          const std::string record = table ? Hex(FlyRecordOffset(*table, index)) : "";
          may = {From(record, 4, 1), From(record, 6, 1)};  // bytes 4 and 6 only
-         if (s.form8.savebutton.enabled) PressSavebutton(s.form8, s.rom, s.form1.headtxt, ui);
+         if (s.form8.savebutton.enabled) PressSavebutton(s.form8, s.rom, s.form1, ui);
        }},
       {"insert braille", true, [this](Ranges& may) {
+         if (careful || Die(4) > 0) Load(WindowName::Form6);  // else the window on show, maybe of the ROM before
          Form6& form = s.form6;
          Type({&form.postionleft, &form.postiontop, &form.msgboxleft, &form.msgboxtop, &form.brailleleft,
                &form.brailletop}, 0x100);
@@ -210,8 +212,8 @@ struct User {
          // the header, the cells, FF 00; the script of 8 bytes
          may = {From(form.Text2.text, 0, std::ssize(EncodeBrailleText(form.Text1.text)) + 8),
                 From(form.Text3.text, 0, 8)};
-         PressInsert(form, s.rom, ui);
-         PressLoad(form, s.rom);
+         PressInsert(form, s.form1, s.rom, ui);
+         PressLoad(form, s.form1, s.rom);
        }},
   };
   // Runs an action as its button does: a Failure ends it with its sentence.
@@ -232,9 +234,12 @@ TEST(UserRoadsTest, NoActionWritesOutsideTheBytesItNames) {
   const std::string folder = ToPathText(root) + "/Pokémon hacks/";
   std::filesystem::create_directories(ToFilePath(folder));
   std::map<std::string, Bytes> last;  // each file as the last check saw it
-  for (const std::string_view code : {"AXVE", "AXPE", "BPRE", "BPGE", "BPEJ"}) {
-    test::FixtureRom rom = RoadRom(code);
-    const std::string path = folder + "ポケモン " + std::string(code) + ".gba";
+  std::vector<GameIdentity> games = test::AllGames();
+  games.push_back({"BPEJ", 0});  // known to the starter editor and Wingfall only
+  games.push_back({"AXVE", 3});  // a revision whose tables are not known
+  for (const GameIdentity& game : games) {
+    test::FixtureRom rom = RoadRom(game);
+    const std::string path = folder + "ポケモン " + ShownIdentity(game) + ".gba";
     std::filesystem::copy_file(ToFilePath(rom.path()), ToFilePath(path));
     last[path] = rom.image();
   }
@@ -246,7 +251,7 @@ TEST(UserRoadsTest, NoActionWritesOutsideTheBytesItNames) {
     const std::size_t pick = user.Die(std::ssize(user.actions) + 1);
     const std::string name = pick < user.actions.size() ? std::string(user.actions[pick].name) : "open";
     Ranges may;
-    name == "open" ? user.Open(user.Die(8) ? std::next(last.begin(), user.Die(5))->first : "")
+    name == "open" ? user.Open(user.Die(8) ? std::next(last.begin(), user.Die(std::ssize(last)))->first : "")
                    : (void)user.Do(name, &may);
     if (path.empty()) continue;
     const std::string where = "seed " + std::to_string(kSeed) + ", step " + std::to_string(step) + ": " + name;
@@ -277,6 +282,7 @@ class BrokenRomTest : public testing::Test {
     const char* broken;
     std::function<void(User&)> breakIt;  // none: the file is read-only
     const char* sentence;
+    std::function<void()> mend = {};     // after the buttons, before the good ROM
   };
 
   BrokenRomTest() { std::filesystem::create_directories(folder); }
@@ -284,7 +290,7 @@ class BrokenRomTest : public testing::Test {
 
   void PressEveryButton(std::initializer_list<Row> rows);
 
-  test::FixtureRom fixture = RoadRom("AXVE");
+  test::FixtureRom fixture = RoadRom({"AXVE", 0});
   const std::string path = fixture.path();
   const std::filesystem::path folder = test::TemporaryPath("a folder.gba");
   test::FixtureRom tooShort = test::FixtureRom::TooShort();
@@ -310,6 +316,7 @@ void BrokenRomTest::PressEveryButton(std::initializer_list<Row> rows) {
       EXPECT_TRUE((!action.writes && sentence.empty()) || std::regex_search(sentence, std::regex(row.sentence)))
           << action.name << ": " << sentence;
     }
+    if (row.mend) row.mend();
     readOnly.reset();
     const Bytes now = test::ReadWholeFile(path);  // every byte as it was, the cut ones cut
     EXPECT_TRUE(now.size() >= 0x100000 && std::equal(now.begin(), now.end(), fixture.image().begin()));
@@ -328,21 +335,22 @@ TEST_F(BrokenRomTest, EveryButtonSaysWhyAndWritesNothing) {
       {"cut short below its tables while open", [&](User&) { std::filesystem::resize_file(ToFilePath(path), 0x100000); },
        "end of the ROM|wholly inside the ROM"},
       // An unknown game: the starter editor and Wingfall do nothing for it.
-      {"shorter than its header", [&](User& u) { u.Open(tooShort.path()); }, "^$|end of the ROM|is not an offset"},
-      {"a folder", [&](User& u) { u.Open(ToPathText(folder)); }, "^$|No ROM is open|is not an offset"},
+      {"shorter than its header", [&](User& u) { u.Open(tooShort.path()); }, "^$|end of the ROM|are not known"},
+      {"a folder", [&](User& u) { u.Open(ToPathText(folder)); }, "^$|No ROM is open"},
       {"cancelled in the Open dialog", [&](User& u) { u.Open(""); }, "No ROM is open"},
   });
 }
 
-TEST_F(BrokenRomTest, OnAPipeOrAFullDiskEveryButtonSaysWhyAndWritesNothing) {
+TEST_F(BrokenRomTest, OnAPipeOrWhereTheSystemRefusesWritesEveryButtonSaysWhyAndWritesNothing) {
 #ifdef _WIN32
-  GTEST_SKIP() << "Windows has no named pipe among its files and no /dev/full";
+  GTEST_SKIP() << "Windows has no named pipe among its files and no limit on the size of a file a process writes";
 #else
   const std::string pipe = ToPathText(test::TemporaryPath("a pipe.gba"));
+  std::optional<test::WriteLimit> limit;
   PressEveryButton({
       {"a pipe", [&](User& u) { mkfifo(pipe.c_str(), 0600), u.Open(pipe), std::filesystem::remove(pipe); },
-       "^$|No ROM is open|is not an offset"},
-      {"on a full disk", [&](User& u) { u.s.rom.Open("/dev/full"); }, "No space left on device"},
+       "^$|No ROM is open"},
+      {"the system refuses every write", [&](User&) { limit.emplace(0); }, "File too large", [&] { limit.reset(); }},
   });
 #endif
 }
@@ -354,8 +362,8 @@ TEST(UserRoadsTest, WhatASaveWroteIsInTheFileWhenTheProcessIsKilledRightAfter) {
 #ifdef _WIN32
   GTEST_SKIP() << "Windows has no fork";
 #else
-  test::FixtureRom killed = RoadRom("AXPE");
-  test::FixtureRom lived = RoadRom("AXPE");
+  test::FixtureRom killed = RoadRom({"AXPE", 0});
+  test::FixtureRom lived = RoadRom({"AXPE", 0});
   const std::vector<std::vector<std::string_view>> roads = {
       {"pick an event", "pick and type in the event fields", "save the event"},
       {"insert a gift"},

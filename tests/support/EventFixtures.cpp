@@ -7,32 +7,47 @@
 namespace tessarine::test {
 namespace {
 
-// The game's offsets, stated here on their own so that the tests compare the system's
-// tables against an independent copy.
-struct GameOffsets {
-  std::string_view code;
-  bool rs;
-  std::uint32_t speciesNames;
-  std::uint32_t label1, raytxt, grou, regi1, regi2, regi3;
-  std::uint32_t latiScript, groudonScript;
-};
-
-constexpr std::array<GameOffsets, 4> kGames{{
-    {"AXVE", true, 0x1F716C, 0x38EE50, 0x391E78, 0x38D880, 0x38E674, 0x38E6DC, 0x38BEBC, 0x160B9B, 0x15DDD7},
-    {"AXPE", true, 0x1F70FC, 0x38EDE0, 0x391E08, 0x38D810, 0x38E604, 0x38E66C, 0x38BE4C, 0x160B2B, 0x15DD67},
-    {"BPRE", false, 0x245EE0, 0x3B27D4, 0x3B4BFC, 0, 0x3B2D7C, 0x3B2120, 0x3B177C, 0, 0},
-    {"BPGE", false, 0x245EBC, 0x3B27B4, 0x3B4BDC, 0, 0x3B2D5C, 0x3B2100, 0x3B175C, 0, 0},
+const std::array<GameOffsets, 10> kGames{{
+    {{"AXVE", 0}, true, 0x1F716C, 0x38EE50, 0x391E78, 0x38D880, 0x38E674, 0x38E6DC, 0x38BEBC, 0x160B9B, 0x15DDD7,
+     0x3C5564, {0x3F76C4, 0x3F76C6, 0x3F76C8}, 0x3E5A2E},
+    {{"AXVE", 1}, true, 0x1F7184, 0x38EE68, 0x391E90, 0x38D898, 0x38E68C, 0x38E6F4, 0x38BED4, 0x160BBB, 0x15DDF7,
+     0x3C5580, {0x3F76E0, 0x3F76E2, 0x3F76E4}, 0x3E5A4A},
+    {{"AXVE", 2}, true, 0x1F7184, 0x38EE68, 0x391E90, 0x38D898, 0x38E68C, 0x38E6F4, 0x38BED4, 0x160BBB, 0x15DDF7,
+     0x3C5580, {0x3F76E0, 0x3F76E2, 0x3F76E4}, 0x3E5A4A},
+    {{"AXPE", 0}, true, 0x1F70FC, 0x38EDE0, 0x391E08, 0x38D810, 0x38E604, 0x38E66C, 0x38BE4C, 0x160B2B, 0x15DD67,
+     0x3C55BC, {0x3F771C, 0x3F771E, 0x3F7720}, 0x3E5A86},
+    {{"AXPE", 1}, true, 0x1F7114, 0x38EDF8, 0x391E20, 0x38D828, 0x38E61C, 0x38E684, 0x38BE64, 0x160B4B, 0x15DD87,
+     0x3C55DC, {0x3F773C, 0x3F773E, 0x3F7740}, 0x3E5AA6},
+    {{"AXPE", 2}, true, 0x1F7114, 0x38EDF8, 0x391E20, 0x38D828, 0x38E61C, 0x38E684, 0x38BE64, 0x160B4B, 0x15DD87,
+     0x3C55DC, {0x3F773C, 0x3F773E, 0x3F7740}, 0x3E5AA6},
+    {{"BPRE", 0}, false, 0x245EE0, 0x3B27D4, 0x3B4BFC, 0, 0x3B2D7C, 0x3B2120, 0x3B177C, 0, 0, 0x3DB028,
+     {0x169BB5, 0x169D82, 0x169DB8}, 0x3EEBF6},
+    {{"BPRE", 1}, false, 0x245F50, 0x3B2844, 0x3B4C6C, 0, 0x3B2DEC, 0x3B2190, 0x3B17EC, 0, 0, 0x3DB098,
+     {0x169C2D, 0x169DFA, 0x169E30}, 0x3EEC66},
+    {{"BPGE", 0}, false, 0x245EBC, 0x3B27B4, 0x3B4BDC, 0, 0x3B2D5C, 0x3B2100, 0x3B175C, 0, 0, 0x3DAE64,
+     {0x169B91, 0x169D5E, 0x169D94}, 0x3EEA32},
+    {{"BPGE", 1}, false, 0x245F2C, 0x3B2824, 0x3B4C4C, 0, 0x3B2DCC, 0x3B2170, 0x3B17CC, 0, 0, 0x3DAED4,
+     {0x169C09, 0x169DD6, 0x169E0C}, 0x3EEAA2},
 }};
-
-const GameOffsets& Game(std::string_view code) {
-  const auto game = std::ranges::find(kGames, code, &GameOffsets::code);
-  if (game == kGames.end()) throw std::invalid_argument("no fixture events for this game code");
-  return *game;
-}
 
 constexpr std::uint32_t kFreeSpace = 0xA00000;  // the fixtures' scripts live here
 
 }  // namespace
+
+const std::vector<GameIdentity>& AllGames() {
+  static const std::vector<GameIdentity> games = [] {
+    std::vector<GameIdentity> all;
+    for (const GameOffsets& offsets : kGames) all.push_back(offsets.game);
+    return all;
+  }();
+  return games;
+}
+
+const GameOffsets& OffsetsOf(const GameIdentity& game) {
+  const auto offsets = std::ranges::find(kGames, game, &GameOffsets::game);
+  if (offsets == kGames.end()) throw std::invalid_argument("no fixture offsets for this game and revision");
+  return *offsets;
+}
 
 std::string FixtureSpeciesName(int index) {
   static constexpr std::array<std::string_view, 16> kHeads{"Bra", "Quo", "Zel", "Mor", "Vin", "Tal", "Fer", "Lum",
@@ -52,10 +67,8 @@ Bytes FixturePerson::Encode() const {
   return b;
 }
 
-std::uint32_t SpeciesTableOffset(std::string_view gameCode) { return Game(gameCode).speciesNames; }
-
-std::vector<FixtureEvent> FixtureEvents(std::string_view gameCode) {
-  const GameOffsets& g = Game(gameCode);
+std::vector<FixtureEvent> FixtureEvents(const GameIdentity& game) {
+  const GameOffsets& g = OffsetsOf(game);
   // A script of 0: the person record's pointer leads to the words.
   std::vector<FixtureEvent> events;
   if (g.rs) {
@@ -108,10 +121,10 @@ void PutEvents(FixtureRom& rom, const std::vector<FixtureEvent>& events) {
   }
 }
 
-FixtureRom EventFixtureRom(std::string_view gameCode) {
-  FixtureRom rom{gameCode};
-  PutSpeciesNames(rom, SpeciesTableOffset(gameCode));
-  PutEvents(rom, FixtureEvents(gameCode));
+FixtureRom EventFixtureRom(const GameIdentity& game) {
+  FixtureRom rom{game.code, FixtureRom::kSize, game.revision};
+  PutSpeciesNames(rom, OffsetsOf(game).speciesNames);
+  PutEvents(rom, FixtureEvents(game));
   return rom;
 }
 

@@ -1,13 +1,33 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "rom/GameProfile.h"
 #include "support/FixtureRom.h"
 
 namespace tessarine::test {
+
+// Every game and revision that Open ROM takes, in a fixed order: each test of a tool runs
+// over these by a table of cases.
+const std::vector<GameIdentity>& AllGames();
+
+// Where a game and revision keep what the tools read and write, stated here on their own so
+// that the tests compare the system's tables against an independent copy.
+struct GameOffsets {
+  GameIdentity game;
+  bool rs;
+  std::uint32_t speciesNames;
+  std::uint32_t label1, raytxt, grou, regi1, regi2, regi3;
+  std::uint32_t latiScript, groudonScript;
+  std::uint32_t items;
+  std::array<std::uint32_t, 3> starters;
+  std::uint32_t flyTable;
+};
+const GameOffsets& OffsetsOf(const GameIdentity& game);
 
 // An invented species name for index 0 to 411: letters only, at most ten of them.
 std::string FixtureSpeciesName(int index);
@@ -39,14 +59,13 @@ struct FixtureEvent {
 // The events of a game's list, entry 0 included, laid out by the fixtures: person records
 // at the game's offsets, each pointing at a script in free space that holds two distinct
 // species numbers at the words' distances.
-std::vector<FixtureEvent> FixtureEvents(std::string_view gameCode);
+std::vector<FixtureEvent> FixtureEvents(const GameIdentity& game);
 
-// The species name table of the game (`PutSpeciesNames`) and all its events.
-FixtureRom EventFixtureRom(std::string_view gameCode);
+// A fixture ROM of the game and revision (its code and revision byte in the header) with
+// the species name table (`PutSpeciesNames`) and all its events. A code alone is revision 0.
+FixtureRom EventFixtureRom(const GameIdentity& game);
+inline FixtureRom EventFixtureRom(std::string_view code) { return EventFixtureRom(GameIdentity{std::string(code), 0}); }
 void PutSpeciesNames(FixtureRom& rom, std::uint32_t tableOffset);
 void PutEvents(FixtureRom& rom, const std::vector<FixtureEvent>& events);
-
-// Where each game keeps its species names.
-std::uint32_t SpeciesTableOffset(std::string_view gameCode);
 
 }  // namespace tessarine::test

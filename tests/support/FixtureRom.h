@@ -73,19 +73,20 @@ inline std::filesystem::path TemporaryPath(std::string_view stem) {
          ("tessarine-" + run + "-" + std::to_string(counter++) + "-" + std::string(stem));
 }
 
-// A ROM image made by the tests: 16 MiB of 0xFF with a chosen game code in the header,
-// and whatever a test puts at its offsets. Nothing in it comes from a real game. The
-// image lives in memory until path() writes it to a temporary file of its own, which is
+// A ROM image made by the tests: 16 MiB of 0xFF with a chosen game code and revision in
+// the header, and whatever a test puts at its offsets. Nothing in it comes from a real game.
+// The image lives in memory until path() writes it to a temporary file of its own, which is
 // removed with the fixture; puts after that reach the file at the next path().
 class FixtureRom {
  public:
   static constexpr std::size_t kSize = 16 * 1024 * 1024;
 
-  explicit FixtureRom(std::string_view gameCode, std::size_t size = kSize)
+  explicit FixtureRom(std::string_view gameCode, std::size_t size = kSize, int revision = 0)
       : image_(size, 0xFF), path_(TemporaryPath("fixture.gba")) {
     for (std::size_t i = 0; i < gameCode.size() && 0xAC + i < size; ++i) {
       image_[0xAC + i] = static_cast<std::uint8_t>(gameCode[i]);
     }
+    if (0xBC < size) image_[0xBC] = static_cast<std::uint8_t>(revision);
   }
   ~FixtureRom() {
     std::error_code ignored;

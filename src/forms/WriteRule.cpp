@@ -1,0 +1,174 @@
+#include "forms/WriteRule.h"
+
+#include <algorithm>
+#include <span>
+
+#include "forms/Form1.h"
+#include "rom/GameProfile.h"
+#include "rom/HexField.h"
+#include "rom/RomImage.h"
+
+namespace tessarine {
+namespace {
+
+constexpr std::int64_t kLastRomOffset = INT32_MAX;
+
+// A place or a length as hexadecimal text; a negative one, or one past a long, in decimal.
+std::string HexNumber(std::int64_t number) {
+  return number >= 0 && number <= INT32_MAX ? ToHexText(static_cast<std::int32_t>(number)) : std::to_string(number);
+}
+
+std::string FieldAndText(std::string_view field, std::string_view text) {
+  return std::string(field) + ": \"" + std::string(text) + "\"";
+}
+
+std::string HeaderRange() {
+  return ToHexText(RomOffset{0}) + " to " + ToHexText(kCartridgeHeaderEnd - 1);
+}
+
+// "the script" as the subject of a sentence: "The script".
+std::string Capitalized(std::string text) {
+  if (!text.empty() && text[0] >= 'a' && text[0] <= 'z') text[0] = static_cast<char>(text[0] - 'a' + 'A');
+  return text;
+}
+
+std::string Size(std::size_t count) { return std::to_string(count) + (count == 1 ? " byte" : " bytes"); }
+
+// "the body and the declined branch", "the body, the branch and the text".
+std::string JoinNames(const std::vector<std::string>& names) {
+  std::string joined;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (i > 0) joined += i + 1 == names.size() ? " and " : ", ";
+    joined += names[i];
+  }
+  return joined;
+}
+
+// The pieces as runs of bytes: pieces that meet or overlap are one run, named by all of them.
+std::string Runs(std::span<const WritePiece> pieces) {
+  struct Run {
+    std::int64_t at;
+    std::int64_t end;
+    std::vector<std::string> names;
+  };
+  std::vector<Run> runs;
+  for (const WritePiece& piece : pieces) {
+    const std::int64_t end = piece.at + static_cast<std::int64_t>(piece.bytes.size());
+    if (!runs.empty() && piece.at <= runs.back().end && end >= runs.back().at) {
+      runs.back().at = std::min(runs.back().at, piece.at);
+      runs.back().end = std::max(runs.back().end, end);
+      runs.back().names.push_back(piece.name);
+    } else {
+      runs.push_back({piece.at, end, {piece.name}});
+    }
+  }
+  std::vector<std::string> texts;
+  for (const Run& run : runs) {
+    texts.push_back(Size(static_cast<std::size_t>(run.end - run.at)) + " at " + HexNumber(run.at) + " (" +
+                    JoinNames(run.names) + ")");
+  }
+  return JoinNames(texts);
+}
+
+// Where a piece is, for a sentence: its field and text when a field placed it.
+std::string PieceAt(const WritePiece& piece) {
+  const std::string what = piece.name + ", " + Size(piece.bytes.size()) + " from " + HexNumber(piece.at);
+  return piece.field.empty() ? Capitalized(what) : FieldAndText(piece.field, piece.fieldText) + ": " + what;
+}
+
+}  // namespace
+
+RomOffset ParseInsertOffset(std::string_view text, std::string_view field, std::string_view hint) {
+  const RomOffset offset = ParseOffset(text, field);
+  if (offset >= kCartridgeHeaderEnd) return offset;
+  const std::string where = offset < 0
+                                ? " lies before the start of the ROM."
+                                : " lies inside the cartridge header, " + HeaderRange() + ", and would write over it.";
+  throw Failure(FieldAndText(field, text) + where + " " + std::string(hint));
+}
+
+std::string FilledBeforeLastOpen(std::string_view again) {
+  return "This window was filled before the last Open ROM, so what it holds may belong to the ROM opened before. " +
+         std::string(again);
+}
+
+RomWrite& RomWrite::From(const FilledAt& filled, std::string_view refusal) {
+  filled_ = &filled;
+  refusal_ = refusal;
+  return *this;
+}
+
+RomWrite& RomWrite::Add(WritePiece piece) {
+  std::erase_if(expected_, [&](const WritePiece& expected) { return expected.name == piece.name; });
+  pieces_.push_back(std::move(piece));
+  return *this;
+}
+
+RomWrite& RomWrite::Expect(WritePiece piece) {
+  expected_.push_back(std::move(piece));
+  return *this;
+}
+
+void RomWrite::Check(const std::vector<std::string>& alsoNotWritten) const {
+  const auto refuse = [&](const std::string& why) { return Stopped(Failure(why), alsoNotWritten); };
+  if (!rom_.IsOpen()) throw refuse("No ROM is open. Open a ROM first.");
+  if (!rom_.StillAtItsPath()) {
+    throw refuse("\"" + rom_.romPath() + "\" is no longer the file that was opened: another program replaced, " +
+                 "moved or removed it since. Open the ROM again to work on the file that is there now.");
+  }
+  const GameIdentity now = ReadGameIdentity(rom_);
+  if (now != IdentityOf(main_)) {
+    throw refuse("The header of \"" + rom_.romPath() + "\" no longer names the game that was opened (" +
+                 ShownIdentity(IdentityOf(main_)) + "): it now reads \"" + ShownIdentity(now) +
+                 "\". Another program changed the file since. Open the ROM again.");
+  }
+  if (filled_ != nullptr && !filled_->Current(main_)) throw refuse(refusal_);
+  std::vector<const WritePiece*> toCheck;
+  for (std::size_t i = written_; i < pieces_.size(); ++i) toCheck.push_back(&pieces_[i]);
+  for (const WritePiece& piece : expected_) toCheck.push_back(&piece);
+  for (const WritePiece* checked : toCheck) {
+    const WritePiece& piece = *checked;
+    const auto length = static_cast<std::int64_t>(piece.bytes.size());
+    if (piece.at < 0) throw refuse(PieceAt(piece) + ", would lie before the start of the ROM.");
+    if (piece.at < kCartridgeHeaderEnd) {
+      throw refuse(PieceAt(piece) + ", would lie inside the cartridge header, " + HeaderRange() +
+                   ", and write over it.");
+    }
+    if (piece.at + length - 1 > kLastRomOffset) {
+      throw refuse(PieceAt(piece) + ", would lie beyond " + ToHexText(static_cast<RomOffset>(kLastRomOffset)) +
+                   ", the last offset of a ROM.");
+    }
+    if (!rom_.Holds(piece.at, length)) {
+      throw refuse(PieceAt(piece) + ", would run past the end of the ROM, which is " + HexNumber(rom_.Length()) +
+                   " bytes long.");
+    }
+  }
+}
+
+void RomWrite::Write(const std::vector<std::string>& alsoNotWritten) {
+  for (; written_ < pieces_.size(); ++written_) {
+    const WritePiece& piece = pieces_[written_];
+    try {
+      rom_.WriteBytes(static_cast<RomOffset>(piece.at), piece.bytes);
+    } catch (const Failure& failure) {
+      throw Stopped(failure, alsoNotWritten);
+    }
+  }
+}
+
+std::string RomWrite::WrittenText() const {
+  return Runs(std::span<const WritePiece>(pieces_).first(written_));
+}
+
+Failure RomWrite::Stopped(const Failure& failure, const std::vector<std::string>& alsoNotWritten) const {
+  if (written_ == 0) return failure.Then("Nothing was written.");
+  std::vector<std::string> notWritten;
+  if (written_ < pieces_.size()) notWritten.push_back(Runs(std::span<const WritePiece>(pieces_).subspan(written_)));
+  // A piece expected has no length yet.
+  for (const WritePiece& piece : expected_) notWritten.push_back(piece.name + " at " + HexNumber(piece.at));
+  notWritten.insert(notWritten.end(), alsoNotWritten.begin(), alsoNotWritten.end());
+  return failure.Then("Written before it stopped: " + WrittenText() + "." +
+                      (notWritten.empty() ? "" : " Not written: " + JoinNames(notWritten) + "."));
+}
+
+}  // namespace tessarine

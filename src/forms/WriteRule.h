@@ -1,0 +1,105 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "rom/Bytes.h"
+#include "rom/Failure.h"
+#include "rom/GbaPointer.h"
+
+namespace tessarine {
+
+struct FilledAt;
+struct Form1;
+class RomImage;
+
+// The one rule for every write of the system: whether an action may write, and what it tells
+// the person when it may not or when it stops half way. Every tool that writes asks it.
+
+// The cartridge header runs from 0 to &HBF: entry code, logo, title, game code and revision.
+// No tool writes there: an offset field that still holds its initial "&H000000" would.
+inline constexpr RomOffset kCartridgeHeaderEnd = 0xC0;
+
+// The refusal of a window filled before the last Open ROM; `again` says how to fill it from
+// the ROM that is open now.
+std::string FilledBeforeLastOpen(std::string_view again);
+
+// ParseOffset of an offset field's text, refused where it lies inside the cartridge header
+// ("&H000000", "0" and "&H0" alike) or before the start of the ROM. The Failure names the
+// field and its text, and ends with `hint`.
+inline constexpr std::string_view kFreeSpaceHint = "Type the offset of free space (a place with lots of FFs).";
+RomOffset ParseInsertOffset(std::string_view text, std::string_view field, std::string_view hint = kFreeSpaceHint);
+
+// One piece of what an action writes: what it is ("the script", "Ball 2"), where, and its
+// bytes. `at` is wide, so that a place worked out from a table and an entry number (which may
+// lie anywhere) is tested as it is, never wrapped. A place that a field gave names the field
+// and its text in the sentences.
+struct WritePiece {
+  std::string name;
+  std::int64_t at = 0;
+  Bytes bytes;
+  std::string field;
+  std::string fieldText;
+};
+
+// What an action writes, piece by piece: checked by the rule before the first write, and
+// accounted for as it goes. An action that writes in steps (a script, then a message typed
+// in between) adds and writes each step's pieces in turn; the account spans all of them.
+class RomWrite {
+ public:
+  RomWrite(RomImage& rom, const Form1& main) : rom_(rom), main_(main) {}
+
+  // The values to write come from what was filled after some Open ROM (FilledAt); when that
+  // was not the last Open ROM, the action may not write and `refusal` says why.
+  RomWrite& From(const FilledAt& filled, std::string_view refusal);
+  RomWrite& Add(WritePiece piece);
+  // A piece that the action writes later, once it knows its bytes (a message still to be
+  // typed): its place is checked with the others, for as many bytes as `piece` holds, the
+  // least it will take. Adding a piece of the same name later puts it in its place.
+  RomWrite& Expect(WritePiece piece);
+
+  // The rule, before the pieces added and not yet written, and those expected, are written:
+  //   - a ROM is open, the path it was opened by still names that file, and its header still
+  //     holds the game code and revision read at the last Open ROM;
+  //   - the form the values come from was filled after the last Open ROM;
+  //   - each piece lies wholly inside the file, ends at or before the last offset a ROM can
+  //     have, and keeps out of the cartridge header.
+  // Throws the Failure that says why not, followed by the account of what was written and
+  // what was not (`alsoNotWritten`: as for Stopped).
+  void Check(const std::vector<std::string>& alsoNotWritten = {}) const;
+
+  // Writes the pieces added and not yet written, in order. A write that fails ends the action
+  // with its sentence and the account.
+  void Write(const std::vector<std::string>& alsoNotWritten = {});
+
+  void CheckAndWrite(const std::vector<std::string>& alsoNotWritten = {}) {
+    Check(alsoNotWritten);
+    Write(alsoNotWritten);
+  }
+
+  // Whether the action has written any piece yet.
+  bool HasWritten() const { return written_ > 0; }
+
+  // The failure that ends the action here, followed by the account: "Nothing was written.",
+  // or what was written (runs of bytes, with the pieces they hold) and what was not: the
+  // pieces added and not yet written, those expected, and `alsoNotWritten`, which the action
+  // had still to work out.
+  [[nodiscard]] Failure Stopped(const Failure& failure, const std::vector<std::string>& alsoNotWritten = {}) const;
+
+  // What the action wrote, as "83 bytes at &H700000 (the body and the declined branch)";
+  // empty when nothing.
+  std::string WrittenText() const;
+
+ private:
+  RomImage& rom_;
+  const Form1& main_;
+  const FilledAt* filled_ = nullptr;
+  std::string refusal_;
+  std::vector<WritePiece> pieces_;
+  std::vector<WritePiece> expected_;
+  std::size_t written_ = 0;  // pieces_[0, written_) are in the file
+};
+
+}  // namespace tessarine
