@@ -23,9 +23,14 @@ struct NameTable {
 constexpr NameTable kSpeciesNames{"Pokemon", "Monster Names", &Form1::Label20, kSpeciesNameLength, kSpeciesNameLength};
 constexpr NameTable kItemNames{"Item", "Item Names", &Form1::itemRecords, kItemRecordLength, kItemNameLength};
 
+constexpr std::string_view kNoTablesOfThisRom =
+    "The name tables of the ROM that is open are not known: it is a game that Tessarine does not know, and the "
+    "Unsupported ROM dialog was left without \"Continue\". Open the ROM again and give its tables there, or open a "
+    "ROM of a known game.";
+
 void WriteName(RomImage& rom, const Form1& main, const NameTable& table, std::int32_t entry, std::string_view name) {
   RomWrite write(rom, main);
-  write.From(main.tables, NoTablesOfThisRom()).Check();  // the table offset is this ROM's before it is read
+  write.From(main.tables, kNoTablesOfThisRom).Check();  // the table offset is this ROM's before it is read
   try {
     // A table may not start in the cartridge header, by the rule of every insert offset.
     const RomOffset start =
@@ -49,10 +54,8 @@ std::string FitName(std::string_view typed, int characters) {
   return fitted;
 }
 
-std::string NoTablesOfThisRom() {
-  return "The name tables of the ROM that is open are not known: it is a game that Tessarine does not know, and "
-         "the Unsupported ROM dialog was left without \"Continue\". Open the ROM again and give its tables there, "
-         "or open a ROM of a known game.";
+void RequireNameTables(const Form1& main, RomImage& rom) {
+  RomWrite(rom, main).From(main.tables, kNoTablesOfThisRom).Check();
 }
 
 void EditPokemonName(RomImage& rom, const Form1& main, std::int32_t entry, std::string_view name) {

@@ -34,7 +34,9 @@ void EditPokemonName(RomImage& rom, const Form1& main, std::int32_t entry, std::
 // in the first 14), the name fitted to 14 characters.
 void EditItemName(RomImage& rom, const Form1& main, std::int32_t entry, std::string_view name);
 
-// Why the name editors refuse while the tables belong to no ROM open (Form1::tables).
-std::string NoTablesOfThisRom();
+// Throws the Failure of the write rule when the name editors may not write at all: no ROM
+// open, a file changed at its path, or name tables that belong to no ROM open
+// (Form1::tables: another ROM's, or none).
+void RequireNameTables(const Form1& main, RomImage& rom);
 
 }  // namespace tessarine

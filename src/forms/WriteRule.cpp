@@ -45,7 +45,7 @@ std::string JoinNames(const std::vector<std::string>& names) {
 }
 
 // The pieces as runs of bytes: pieces that meet or overlap are one run, named by all of them.
-std::string Runs(std::span<const WritePiece> pieces) {
+std::vector<std::string> Runs(std::span<const WritePiece> pieces) {
   struct Run {
     std::int64_t at;
     std::int64_t end;
@@ -67,7 +67,7 @@ std::string Runs(std::span<const WritePiece> pieces) {
     texts.push_back(Size(static_cast<std::size_t>(run.end - run.at)) + " at " + HexNumber(run.at) + " (" +
                     JoinNames(run.names) + ")");
   }
-  return JoinNames(texts);
+  return texts;
 }
 
 // Where a piece is, for a sentence: its field and text when a field placed it.
@@ -157,13 +157,12 @@ void RomWrite::Write(const std::vector<std::string>& alsoNotWritten) {
 }
 
 std::string RomWrite::WrittenText() const {
-  return Runs(std::span<const WritePiece>(pieces_).first(written_));
+  return JoinNames(Runs(std::span<const WritePiece>(pieces_).first(written_)));
 }
 
 Failure RomWrite::Stopped(const Failure& failure, const std::vector<std::string>& alsoNotWritten) const {
   if (written_ == 0) return failure.Then("Nothing was written.");
-  std::vector<std::string> notWritten;
-  if (written_ < pieces_.size()) notWritten.push_back(Runs(std::span<const WritePiece>(pieces_).subspan(written_)));
+  std::vector<std::string> notWritten = Runs(std::span<const WritePiece>(pieces_).subspan(written_));
   // A piece expected has no length yet.
   for (const WritePiece& piece : expected_) notWritten.push_back(piece.name + " at " + HexNumber(piece.at));
   notWritten.insert(notWritten.end(), alsoNotWritten.begin(), alsoNotWritten.end());

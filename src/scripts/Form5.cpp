@@ -34,7 +34,10 @@ void LoadForm5Lists(Form5& form, Form1& main, RomImage& rom) {
   form.Label7.caption = main.itemRecords;
   form.Combo1.Clear();
   form.Combo1.rows = main.Combo1.rows;
+  // The held item follows the list: emptied, it shows no row, and the item written is the
+  // one shown, the field's initial value.
   form.Combo2.Clear();
+  form.Text2.text = Form5{}.Text2.text;
   if (HasItemTable(rom, main)) form.Combo2.rows = LoadItemList(rom, main.itemRecords);
   form.filled.Fill(main);
 }

@@ -47,7 +47,8 @@ inline constexpr std::string_view kGiveMessagePrompt =
 // what the Unsupported ROM dialog gave), the species list copied from the main window, the
 // item list read from the ROM. With no ROM open, an itemRecords that is no offset or that
 // belongs to no table of this ROM (Form1::tables), the item list is empty and nothing is
-// said. Clears both lists' selections and leaves every other field as it stands.
+// said. Clears both lists' selections, puts the held item back to its initial text, and
+// leaves every other field as it stands.
 void LoadForm5Lists(Form5& form, Form1& main, RomImage& rom);
 
 // Choosing a row puts its number into the field behind the list.

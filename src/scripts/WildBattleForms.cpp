@@ -44,6 +44,7 @@ void Finish(WindowName window, Dialogs& dialogs) {
 void LoadWildBattleLists(WildBattleForm& form, const Form1& main, const std::vector<std::string>& itemRows) {
   form.Combo1.rows = main.Combo1.rows;
   form.Combo2.Clear();
+  form.Text2.text = WildBattleForm{}.Text2.text;  // what the emptied list shows
   form.Combo2.rows = itemRows;
   form.filled.Fill(main);
 }

@@ -30,4 +30,6 @@ void LoadForm5(Session& session) {
 
 void UnloadForm5(Session& session) { session.form5LoadedAt.reset(); }
 
+void ItemNamesChanged(Session& session) { session.form5LoadedAt.reset(); }
+
 }  // namespace tessarine

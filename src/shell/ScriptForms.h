@@ -34,4 +34,8 @@ void LoadForm5(Session& session);
 // Form5 closed: no longer loaded, so the next need reads its lists again.
 void UnloadForm5(Session& session);
 
+// An item was renamed: the item list is read again the next time a form needs it, so that
+// every form that shows it next shows the new name.
+void ItemNamesChanged(Session& session);
+
 }  // namespace tessarine

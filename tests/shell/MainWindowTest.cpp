@@ -268,8 +268,9 @@ TEST(NameEditorMenuTest, APlaceBeyondTheLastOffsetIsRefusedOnADeviceToo) {
   RomImage rom;
   rom.Open(test::EndlessDevice());  // every place lies inside it
   Form1 main;
-  main.headtxt = std::string(4, '\0');  // what its header holds
-  main.revision = 0;
+  const GameIdentity device = ReadGameIdentity(rom);  // what its header holds, if anything
+  main.headtxt = device.code;
+  main.revision = device.revision;
   main.tables.Fill(main);
   main.Label20 = "&HC0";
   EXPECT_EQ(test::FailureOf([&] { EditPokemonName(rom, main, 0x1745D174, "A"); }),  // wraps to &HBC in 32 bits

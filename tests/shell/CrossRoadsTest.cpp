@@ -1,0 +1,295 @@
+// Roads that cross windows and files: what one tool, an Open ROM or another program does
+// between a form's load and its action. Each road ends with the sentence it must say (or
+// none) and the exact bytes the file may have changed, by the whole-file byte oracle.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "braille/Form6.h"
+#include "editors/Form9.h"
+#include "events/EventSelection.h"
+#include "events/PersonRecord.h"
+#include "flyland/Form8.h"
+#include "rom/FilePath.h"
+#include "rom/HexField.h"
+#include "shell/OpenRom.h"
+#include "shell/Session.h"
+#include "shell/ToolsMenu.h"
+#include "support/ByteOracle.h"
+#include "support/EventFixtures.h"
+#include "support/Failures.h"
+#include "support/ReadOnlyFile.h"
+#include "support/ScriptedDialogs.h"
+#include "support/WriteLimit.h"
+
+namespace tessarine {
+namespace {
+
+using test::ByteRange;
+using ::testing::HasSubstr;
+
+// The program with no windows, on one file whose bytes the roads change as other programs do.
+struct Desk {
+  Session s;
+  test::ScriptedDialogs ui;
+  test::FixtureRom ruby = Fixture({"AXVE", 0}), fireRed = Fixture({"BPRE", 0});
+  test::FixtureRom unknown{"ZZZZ"};
+  const std::string path = ToPathText(test::TemporaryPath("rom.gba"));
+
+  // A game's events and names, with item names and a fly record of its own.
+  static test::FixtureRom Fixture(const GameIdentity& game) {
+    test::FixtureRom rom = test::EventFixtureRom(game);
+    const test::GameOffsets& at = test::OffsetsOf(game);
+    rom.PutName(at.items + 13 * 44, "Nugget", 14).PutBytes(at.flyTable + 8 * 8, {1, 2, 3, 4, 5, 6, 7, 8});
+    return rom;
+  }
+  Desk() { Put(ruby); }
+  ~Desk() {
+    s.rom.Close();
+    std::filesystem::remove(ToFilePath(path));
+  }
+  // The file at the path takes the fixture's bytes: written in place, as by a program that
+  // overwrites, or renamed over it from a new file, as by one that saves a copy and renames.
+  void Put(test::FixtureRom& from, bool renamed = false) {
+    const std::string written = renamed ? path + ".new" : path;
+    std::ofstream(ToFilePath(written), std::ios::binary | std::ios::in | std::ios::out | std::ios::trunc)
+        .write(reinterpret_cast<const char*>(from.image().data()), static_cast<std::streamsize>(from.image().size()));
+    if (renamed) std::filesystem::rename(ToFilePath(written), ToFilePath(path));
+  }
+  void Open(test::FixtureRom& rom) {
+    Put(rom);
+    ui.openFileAnswers = {path};
+    OpenRom(s.form1, s.rom, ui);
+  }
+  void Show(WindowName window) {
+    ResetWindow(s, window);
+    LoadWindow(s, ui, window);
+  }
+  void Menu(MenuEntry entry, std::initializer_list<std::string> answers = {}) {
+    ui.inputAnswers.assign(answers.begin(), answers.end());
+    RunMenuEntry(entry, s, ui);
+  }
+};
+
+// Each road: what it does (the last step is the action whose writes are checked), the bytes
+// of the file at the path that may change, counted from the state before that last step, and
+// what it says (a part of the sentence that ends it, or of the last message; "" for none).
+struct Road {
+  const char* name;
+  std::function<void(Desk&)> before;
+  std::function<void(Desk&)> act;
+  std::vector<ByteRange> changes;
+  const char* says;
+};
+
+void PickRayquazaAndRename(Desk& d) {
+  d.Open(d.ruby);
+  SetCombo3Selection(d.s.form1, d.s.rom, d.ui, 1);
+  d.s.form1.spritetxt.text = "&H50";
+  d.s.form1.hoobla2.text = "&H19";  // a typed cry survives the rename
+  d.Menu(MenuEntry::mnuedipmon, {"&H19", "PIKA"});
+}
+
+void GiftOnFireRed(Desk& d) {
+  d.Open(d.fireRed);
+  d.Show(WindowName::Form5);
+  SetCombo1Selection(d.s.form5, 0x19);
+  SetCombo3Selection(d.s.form5, 5);
+  SetCombo2Selection(d.s.form5, 13);
+  d.s.form5.Text3.text = "&H700000";
+  d.s.form5.Text12.text = "&H7A0000";
+}
+
+void SaveWithWritesRefusedFrom(std::uint64_t limit, const std::function<void()>& save) {
+#ifdef _WIN32
+  GTEST_SKIP() << "Windows has no limit on the size of a file a process writes";
+#else
+  const test::WriteLimit refused(limit);
+  save();
+#endif
+}
+
+const Road kRoads[] = {
+    {"a rename keeps the words of the event picked before it", PickRayquazaAndRename,
+     [](Desk& d) { d.s.form1.Text1.text = "&H0"; SavePerson(d.s.form1, d.s.rom, d.ui); },
+     {{0x38EE51, 1}, {0xA00108, 2}},  // sprite &H50; the cry typed (&H19 over &H181); the species kept
+     ""},
+    {"a refilled item list writes the item it shows",
+     [](Desk& d) {
+       GiftOnFireRed(d);
+       d.Open(d.ruby);
+       d.Show(WindowName::Form3);  // takes the item list from the give-Pokemon form on show
+     },
+     [](Desk& d) {
+       d.ui.inputAnswers = {"AB"};
+       InsertGivePokemon(d.s.form5, d.s.form1, d.s.rom, d.ui);
+       EXPECT_EQ(d.s.form5.Text2.text, "&H0000");
+     },
+     {{0x700000, 83}, {0x70005D, 9}, {0x700067, 48}, {0x7A0000, 2}, {0x7A0003, 1}}, ""},  // FF stood at T+2
+    {"a gift from a window of the ROM before writes nothing", GiftOnFireRed,
+     [](Desk& d) {
+       d.ui.openFileAnswers = {d.path};
+       OpenRom(d.s.form1, d.s.rom, d.ui);  // the same file, opened again
+       InsertGivePokemon(d.s.form5, d.s.form1, d.s.rom, d.ui);
+     },
+     {}, "This window was filled before the last Open ROM"},
+    {"a landing picked on FireRed is not saved into Ruby",
+     [](Desk& d) {
+       d.Open(d.fireRed);
+       d.Show(WindowName::Form8);
+       SelectLocation(d.s.form8, d.s.rom, d.s.form1, FlyList::kanto, 8);
+       d.s.form8.XXt.text = "&H15";
+       d.s.form8.YYt.text = "&H22";
+       d.Open(d.ruby);
+     },
+     [](Desk& d) { PressSavebutton(d.s.form8, d.s.rom, d.s.form1, d.ui); }, {},
+     "Pick a location, or press \"Load\""},
+    {"after Quit the name editors write no table of the game before",
+     [](Desk& d) {
+       d.Open(d.fireRed);
+       d.Menu(MenuEntry::mnuediten, {"&H1", "AB"});  // the item table of FireRed is known
+       d.Open(d.unknown);
+       PressQuit(d.s.form9, d.ui);
+     },
+     [](Desk& d) {
+       EXPECT_THAT(test::FailureOf([&] { d.Menu(MenuEntry::mnuediten, {"&H1", "AB"}); }), HasSubstr("not known"));
+       d.Menu(MenuEntry::mnuedipmon, {"&H1", "AB"});
+     },
+     {}, "The name tables of the ROM that is open are not known"},
+    {"a table the dialog put in the header takes no name",
+     [](Desk& d) {
+       d.Open(d.unknown);
+       PressContinue(d.s.form9, d.s.form1, d.ui);  // both fields at their "&H000000"
+       EXPECT_THAT(d.ui.MessageTexts().back(), HasSubstr("Item Names: \"&H000000\" lies inside the cartridge header"));
+     },
+     [](Desk& d) { d.Menu(MenuEntry::mnuediten, {"&H0", "POTION"}); }, {},
+     "Item Names: \"&H000000\" lies inside the cartridge header"},
+    {"no ROM opened yet: both editors say so and ask nothing", [](Desk&) {},
+     [](Desk& d) {
+       EXPECT_EQ(test::FailureOf([&] { d.Menu(MenuEntry::mnuediten); }),
+                 test::FailureOf([&] { d.Menu(MenuEntry::mnuedipmon); }));
+       EXPECT_TRUE(d.ui.inputs.empty());
+       d.Menu(MenuEntry::mnuediten);
+     },
+     {}, "No ROM is open. Open a ROM first."},
+    {"a renamed item shows in the next form that lists it",
+     [](Desk& d) {
+       d.Open(d.fireRed);
+       d.Show(WindowName::Form3);
+     },
+     [](Desk& d) {
+       d.Menu(MenuEntry::mnuediten, {"&HD", "Pearl"});
+       d.Show(WindowName::Form4);
+       EXPECT_EQ(d.s.form4.Combo2.rows.at(13), "00D - Pearl" + std::string(8, ' '));
+     },
+     {{0x3DB028 + 13 * 44, 14}}, ""},
+    {"a file renamed over the open one takes no save",
+     [](Desk& d) {
+       d.Open(d.ruby);
+       d.Show(WindowName::Form2);
+       d.Put(d.ruby, true);  // another program saved a copy and renamed it over the file
+     },
+     [](Desk& d) { PressSave(d.s.form2, d.s.form1, d.s.rom, d.ui); }, {}, "is no longer the file that was opened"},
+    {"a file overwritten in place by another game takes no name",
+     [](Desk& d) {
+       d.Open(d.ruby);
+       d.Put(d.fireRed);
+     },
+     [](Desk& d) { d.Menu(MenuEntry::mnuedipmon, {"&H1", "AB"}); }, {},
+     "no longer names the game that was opened (AXVE): it now reads \"BPRE\""},
+    {"a gift stopped at its third write says what it wrote", GiftOnFireRed,
+     [](Desk& d) {
+       d.ui.inputAnswers = {"AB"};
+       SaveWithWritesRefusedFrom(0x70005D, [&] { InsertGivePokemon(d.s.form5, d.s.form1, d.s.rom, d.ui); });
+     },
+     {{0x700000, 83}},
+     "Written before it stopped: 83 bytes at &H700000 (the body and the declined branch). Not written: 9 bytes at "
+     "&H70005D (the no-room branch), 48 bytes at &H700067 (the declined text and the no-room text) and the question "
+     "at &H7A0000."},
+    {"starters stopped at their second write say what they wrote",
+     [](Desk& d) {
+       d.Open(d.fireRed);
+       d.Show(WindowName::Form2);
+       SetCombo1Selection(d.s.form2, 0x19);
+     },
+     [](Desk& d) {
+       SaveWithWritesRefusedFrom(0x169D82, [&] { PressSave(d.s.form2, d.s.form1, d.s.rom, d.ui); });
+     },
+     {{0x169BB5, 2}}, "Written before it stopped: 2 bytes at &H169BB5 (Ball 1). Not written: 2 bytes at &H169D82 "
+                      "(Ball 2) and 2 bytes at &H169DB8 (Ball 3)."},
+    {"a braille insert stopped before its script says what it wrote",
+     [](Desk& d) {
+       d.Open(d.ruby);
+       d.Show(WindowName::Form6);
+       for (TextBox* field : {&d.s.form6.postionleft, &d.s.form6.postiontop, &d.s.form6.msgboxleft,
+                              &d.s.form6.msgboxtop, &d.s.form6.brailleleft, &d.s.form6.brailletop}) {
+         field->text = "0";
+       }
+       SetText1(d.s.form6, "A");
+       d.s.form6.Text2.text = "&H700000";
+       d.s.form6.Text3.text = "&H800000";
+     },
+     [](Desk& d) {
+       d.ui.messageAnswers = {MessageAnswer::Yes};
+       SaveWithWritesRefusedFrom(0x800000, [&] { PressInsert(d.s.form6, d.s.form1, d.s.rom, d.ui); });
+     },
+     {{0x700000, 7}, {0x700008, 1}},  // the 0xFF end byte stood there already
+     "Written before it stopped: 9 bytes at &H700000 (the braille record). Not written: 8 bytes at &H800000 (its "
+     "script)."},
+    {"an event save stopped at its words says what it wrote",
+     [](Desk& d) {
+       d.Open(d.ruby);
+       SetCombo3Selection(d.s.form1, d.s.rom, d.ui, 1);
+       d.s.form1.spritetxt.text = "&H50";
+     },
+     [](Desk& d) { SaveWithWritesRefusedFrom(0xA00000, [&] { SavePerson(d.s.form1, d.s.rom, d.ui); }); },
+     {{0x38EE51, 1}},
+     "Written before it stopped: 22 bytes at &H38EE50 (the person record). Not written: 2 bytes at &HA00103 (the "
+     "Pokemon word) and the Cry word."},
+    {"starters past the end of a short ROM show no value",
+     [](Desk& d) {
+       test::FixtureRom shortRuby = Desk::Fixture({"AXVE", 0});
+       d.Open(shortRuby);
+       std::filesystem::resize_file(ToFilePath(d.path), 0x300000);
+     },
+     [](Desk& d) {
+       EXPECT_THAT(test::FailureOf([&] { d.Show(WindowName::Form2); }), HasSubstr("past the end of the file"));
+       EXPECT_EQ(d.s.form2.Combo1.selected, -1);
+       EXPECT_EQ(d.s.form2.Combo1.text, "");
+       PressSave(d.s.form2, d.s.form1, d.s.rom, d.ui);
+     },
+     {}, "would run past the end of the ROM"},
+};
+
+TEST(CrossRoadsTest, EachRoadWritesOnlyItsBytesAndSaysWhatHappened) {
+  for (const Road& road : kRoads) {
+    SCOPED_TRACE(road.name);
+    Desk d;
+    road.before(d);
+    if (::testing::Test::IsSkipped()) return;
+    d.ui.messages.clear();
+    const test::ByteOracle oracle(d.path);
+    std::string said = test::FailureOf([&] { road.act(d); });
+    if (said.empty() && !d.ui.messages.empty()) said = d.ui.messages.back().text;
+    EXPECT_THAT(said, HasSubstr(road.says));
+    EXPECT_EQ(*road.says == '\0', said.empty()) << said;
+    EXPECT_EQ(oracle.Changes(), road.changes);
+  }
+}
+
+// A file that cannot be written says so the moment it opens.
+TEST(CrossRoadsTest, AReadOnlyRomSaysSoWhenItOpens) {
+  Desk d;
+  d.Put(d.ruby);
+  test::ReadOnlyFile readOnly(d.path);
+  if (!readOnly.works()) GTEST_SKIP() << "this machine lets the tests write any file";
+  d.ui.openFileAnswers = {d.path};
+  OpenRom(d.s.form1, d.s.rom, d.ui);
+  EXPECT_EQ(d.s.form1.hdtxt.caption, "AXVE (read-only)");
+  d.s.rom.Close();
+}
+
+}  // namespace
+}  // namespace tessarine
