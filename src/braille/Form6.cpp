@@ -135,6 +135,26 @@ void SetText1(Form6& form, std::string text) {
   form.Label1.caption = DoubledLineBreaks(form.Text1.text);
 }
 
+std::vector<TextPiece> TextPieces(std::string_view text, std::size_t pieceBytes) {
+  std::vector<TextPiece> pieces;
+  for (bool more = true; more;) {
+    const std::size_t end = text.find(kLineBreak);
+    more = end != std::string_view::npos;
+    std::string_view line = text.substr(0, end);
+    bool continues = false;
+    do {
+      std::size_t cut = std::min(line.size(), std::max<std::size_t>(pieceBytes, 1));
+      // A character's bytes stay together: back up over the continuation bytes of UTF-8.
+      while (cut < line.size() && cut > 1 && (static_cast<unsigned char>(line[cut]) & 0xC0) == 0x80) --cut;
+      pieces.push_back({line.substr(0, cut), continues});
+      line.remove_prefix(cut);
+      continues = true;
+    } while (!line.empty());
+    if (more) text.remove_prefix(end + kLineBreak.size());
+  }
+  return pieces;
+}
+
 void SetBrailleLeft(Form6& form, std::string text) {
   form.brailleleft.text = std::move(text);
   form.Label1.Left = EightPixelUnits(form.brailleleft.text).value_or(form.Label1.Left);

@@ -2,6 +2,8 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "braille/BraillePreview.h"
 #include "forms/Controls.h"
@@ -102,6 +104,18 @@ void PressLoadScreenshot(Dialogs& dialogs, const PictureLoader& load);
 // brailleleft and brailletop: Label1 moves to the field times 8 pixels, or stays where that
 // leaves 32 bits.
 void SetText1(Form6& form, std::string text);
+
+// Text1 as a text box holds it for editing: its lines (CR LF apart), each cut into pieces of
+// at most `pieceBytes` bytes, at the start of a character. A box that lays out its text a
+// piece at a time then lays out again only the piece that a key changes, also in a record
+// whose text runs over megabytes of cells. `continues`: the piece goes on the line of the
+// piece before it, with no line break between.
+struct TextPiece {
+  std::string_view text;
+  bool continues = false;
+};
+inline constexpr std::size_t kTextPieceBytes = 4096;
+std::vector<TextPiece> TextPieces(std::string_view text, std::size_t pieceBytes = kTextPieceBytes);
 void SetBrailleLeft(Form6& form, std::string text);
 void SetBrailleTop(Form6& form, std::string text);
 

@@ -11,6 +11,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QTextBlock>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
@@ -30,8 +31,8 @@ namespace {
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 
-// The text box holds its lines with "\n"; the record with CR LF.
-std::string WithCrLf(const QString& text) { return QString(text).replace('\n', "\r\n").toStdString(); }
+// A block of Text1 that goes on the line of the block before it (TextPieces).
+constexpr int kContinuesLine = 1;
 
 // Pixels far enough outside the preview that an edge there is never seen: a frame's edge
 // placed further out is drawn there, so that no widget takes a size Qt cannot hold.
@@ -180,7 +181,7 @@ void Form6Window::BuildWidgets() {
 
 void Form6Window::Connect() {
   connect(Text1_, &QPlainTextEdit::textChanged, this, [this] {
-    shownText1_ = WithCrLf(Text1_->toPlainText());
+    shownText1_ = TypedText1();
     shell_.Run([this] { SetText1(form_, shownText1_); });
   });
   connect(brailleleft_, &QLineEdit::textEdited, this,
@@ -230,10 +231,7 @@ void Form6Window::Refresh() {
   setWindowTitle(Q(form_.title));
   Sync(Label14_, form_.Label14);
   Sync(Label9_, form_.Label9);
-  if (shownText1_ != form_.Text1.text) {
-    Text1_->setPlainText(Q(form_.Text1.text).replace("\r\n", "\n"));
-    shownText1_ = form_.Text1.text;
-  }
+  if (shownText1_ != form_.Text1.text) ShowText1(form_.Text1.text);
   Sync(Label10_, form_.Label10);
   Sync(Label8_, form_.Label8);
   Sync(Text2_, form_.Text2);
@@ -263,6 +261,34 @@ void Form6Window::Refresh() {
   Shape1_->setGeometry(left, top, Near(std::int64_t{frame.Left} + frame.Width) - left,
                        Near(std::int64_t{frame.Top} + frame.Height) - top);
   ShowLabel1();
+}
+
+void Form6Window::ShowText1(const std::string& text) {
+  // A block a piece: a key lays out again only its own block, however long the line.
+  const std::vector<TextPiece> pieces = TextPieces(text);
+  QString shown;
+  shown.reserve(static_cast<qsizetype>(text.size() + pieces.size()));
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    if (i > 0) shown += QChar('\n');
+    shown += QString::fromUtf8(pieces[i].text.data(), static_cast<qsizetype>(pieces[i].text.size()));
+  }
+  Text1_->setPlainText(shown);
+  QTextBlock block = Text1_->document()->firstBlock();
+  for (const TextPiece& piece : pieces) {
+    block.setUserState(piece.continues ? kContinuesLine : -1);
+    block = block.next();
+  }
+  shownText1_ = text;
+}
+
+std::string Form6Window::TypedText1() const {
+  // A block that a person starts with Enter has no state, so it starts a line of its own.
+  std::string text;
+  for (QTextBlock block = Text1_->document()->firstBlock(); block.isValid(); block = block.next()) {
+    if (block.previous().isValid() && block.userState() != kContinuesLine) text += "\r\n";
+    text += block.text().toStdString();
+  }
+  return text;
 }
 
 void Form6Window::ShowLabel1() {

@@ -71,6 +71,10 @@ class Form6Window : public QWidget {
   QLabel* Label1_;
 
   // What the widgets were last given, so that a refresh touches only what changed.
+  // Text1 holds its text a piece a block (TextPieces); these put the record's text there and
+  // read back what the person typed, CR LF between lines.
+  void ShowText1(const std::string& text);
+  std::string TypedText1() const;
   std::string shownText1_;
   std::string shownCaption_;
   std::size_t shownLines_ = 0;

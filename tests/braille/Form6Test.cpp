@@ -193,6 +193,19 @@ TEST(Form6Test, PreviewLayoutStopsAtTheFirstNegativeSide) {
   EXPECT_EQ(form.Label1.Left, 24);
 }
 
+// The pieces in which a text box holds the text: each line its own, a long one cut at the start
+// of a character, and the pieces of a line say that they go on it.
+TEST(Form6Test, TextPiecesKeepTheLinesAndCutLongOnesAtACharacter) {
+  const auto pieces = [](std::string_view text, std::size_t bytes) {
+    std::string shown;
+    for (const TextPiece& piece : TextPieces(text, bytes)) shown += (piece.continues ? "+" : "|") + std::string(piece.text);
+    return shown;
+  };
+  EXPECT_EQ(pieces("", 4), "|");
+  EXPECT_EQ(pieces("ABCDEFGHIJ\r\n\r\nAB", 4), "|ABCD+EFGH+IJ||AB");
+  EXPECT_EQ(pieces("AB\xC3\xA9" "CD\r\n", 3), "|AB+\xC3\xA9" "C+D|");  // é stays whole
+}
+
 TEST(Form6Test, ThePreviewDrawsTheCellsAsBraillePatterns) {
   const struct {
     const char* text;

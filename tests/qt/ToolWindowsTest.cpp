@@ -209,6 +209,21 @@ TEST_F(ToolWindowsTest, Form6InsertsLoadsAndPreviewsABrailleRecord) {
   EXPECT_EQ(Text("postionleft"), "&H1");
   EXPECT_EQ(shape1->geometry(), QRect(8, 16, 229, 139));
 
+  // A line longer than the box holds in one block of its own: keys change what they type and
+  // no more, at its start and at its end.
+  Bytes record(6, 0);
+  record.resize(6 + 9000, 0x01);
+  record.push_back(0xFF);
+  shell.rom().WriteBytes(kS + 0x200, record);
+  Type(Find<QLineEdit>("Text2"), "&H700200");
+  Click("Command2");
+  text1->moveCursor(QTextCursor::Start);
+  QTest::keyClicks(text1, "B");
+  text1->moveCursor(QTextCursor::End);
+  QTest::keyClick(text1, Qt::Key_Return);
+  QTest::keyClicks(text1, "C");
+  EXPECT_EQ(shell.session().form6.Text1.text, "B" + std::string(9000, 'A') + "\r\nC");
+
   QTemporaryDir folder;  // a file that is no picture is refused, and the picture stays
   QFile(folder.filePath("notes.bmp")).open(QIODevice::WriteOnly);
   dialogs.messages.clear();
