@@ -2,6 +2,7 @@
 
 #include "flyland/MapView.h"
 #include "forms/Dialogs.h"
+#include "rom/Failure.h"
 #include "rom/HexField.h"
 
 namespace tessarine {
@@ -23,10 +24,11 @@ std::string TilesText(int pixels) {
   return ToHexText(static_cast<std::int32_t>(RoundHalfEven(pixels, kTilePixels)));
 }
 
-void TakeNewPicture(Form8& form, const std::optional<PictureSize>& picture) {
-  if (picture) ShowMapPicture(form, MapPicture::Brought, *picture);
+void TakeNewPicture(Form8& form, const TakenPicture& picture) {
+  if (picture.size) ShowMapPicture(form, MapPicture::Brought, *picture.size);
   SetMapSizeFromSurface(form);
   PressTxtchange(form);
+  if (!picture.size) throw Failure(picture.problem).Then("The map keeps its picture.");
 }
 
 }  // namespace

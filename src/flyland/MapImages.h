@@ -9,16 +9,22 @@ namespace tessarine {
 
 class Dialogs;
 
+// A picture brought to the map: its size, from then on the one to show; or none, with the
+// sentence that says why, and the picture on show stays.
+struct TakenPicture {
+  std::optional<PictureSize> size;
+  std::string problem;
+};
+
 // Where the pictures that a person brings come from: files and the clipboard. The program
-// decodes them; a test answers with sizes. Each gives the size of the new picture, which
-// is from then on the one to show, or none, and the picture on show stays.
+// decodes them; a test answers with sizes.
 class MapPictures {
  public:
   virtual ~MapPictures() = default;
-  // A BMP, GIF or JPEG file; none when it is no picture, or one too large to decode.
-  virtual std::optional<PictureSize> TakeFile(const std::string& path) = 0;
-  // The bitmap on the clipboard; none when there is none.
-  virtual std::optional<PictureSize> TakeClipboard() = 0;
+  // A BMP, GIF or JPEG file; none when it is no picture, is cut short or is too large.
+  virtual TakenPicture TakeFile(const std::string& path) = 0;
+  // The bitmap on the clipboard; none when there is none, or it is refused as a file is.
+  virtual TakenPicture TakeClipboard() = 0;
 };
 
 inline constexpr const char* kMapImageTitle = "Open";
@@ -45,11 +51,12 @@ void ShowMapPicture(Form8& form, MapPicture picture, PictureSize size);
 void FitSurfaceToImage(Form8& form, PictureSize image);
 
 // "Load Map Image": a picture from a file. A file that is no picture changes no picture,
-// and the size fields still take the surface's size; a cancelled dialog changes nothing.
+// the size fields still take the surface's size, and then a Failure says why the file was
+// not taken; a cancelled dialog changes nothing.
 void LoadMapImageFile(Form8& form, Dialogs& dialogs, MapPictures& pictures);
 
 // "Load EliteMap Clipboard Level": the bitmap on the clipboard. With none there the
-// picture stays, and the size fields still take the surface's size.
+// picture stays, the size fields still take the surface's size, and a Failure says why.
 void PasteMapImage(Form8& form, MapPictures& pictures);
 
 }  // namespace tessarine

@@ -11,13 +11,13 @@ namespace tessarine {
 // keeps the last one taken, which the map surface shows.
 class QtMapPictures : public MapPictures {
  public:
-  std::optional<PictureSize> TakeFile(const std::string& path) override;
-  std::optional<PictureSize> TakeClipboard() override;
+  TakenPicture TakeFile(const std::string& path) override;
+  TakenPicture TakeClipboard() override;
 
   const QImage& brought() const { return brought_; }
 
  private:
-  std::optional<PictureSize> Take(const QImage& image);
+  TakenPicture Take(const QImage& image, const QString& problem);
 
   QImage brought_;
 };

@@ -246,9 +246,9 @@ TEST(MapViewTest, APressNamesTheTileUnderItAndPutsTheMarkersOnItsCornerAndOneOff
 // Pictures from files and the clipboard: `next` is taken once, and then there is none.
 struct ScriptedPictures : MapPictures {
   std::optional<PictureSize> next;
-  std::optional<PictureSize> Take() { return std::exchange(next, std::nullopt); }
-  std::optional<PictureSize> TakeFile(const std::string&) override { return Take(); }
-  std::optional<PictureSize> TakeClipboard() override { return Take(); }
+  TakenPicture Take() { return {std::exchange(next, std::nullopt), "It is no picture."}; }
+  TakenPicture TakeFile(const std::string&) override { return Take(); }
+  TakenPicture TakeClipboard() override { return Take(); }
 };
 
 TEST(MapViewTest, ANewPictureSetsTheMapSizeByTheFitRuleTheSameEachTime) {
@@ -275,6 +275,14 @@ TEST(MapViewTest, ANewPictureSetsTheMapSizeByTheFitRuleTheSameEachTime) {
       EXPECT_EQ(form.Picture2.pictureNumber, time);
     }
   }
+  // A file refused says why; the picture stays and the size fields come back from the surface.
+  Form8 form = TwentyByTwenty();
+  form.Text1.text = "abc";
+  ScriptedDialogs dialogs;
+  dialogs.openFileAnswers.push_back("notes.bmp");
+  ScriptedPictures none;
+  EXPECT_EQ(FailureOf([&] { LoadMapImageFile(form, dialogs, none); }), "It is no picture. The map keeps its picture.");
+  EXPECT_EQ(form.Text1.text + " " + std::to_string(form.Picture2.pictureNumber), "&H14 0");
 }
 
 }  // namespace

@@ -281,10 +281,11 @@ TEST_F(ToolWindowsTest, Form8ClicksOnTheScrolledMapReachTheRecordAndTheSaveReach
   QGuiApplication::clipboard()->setImage(QImage(384, 320, QImage::Format_RGB32));
   Click("Command1");
   EXPECT_EQ(Text("Text1") + Text("Text2"), "&H18&H14");
-  QGuiApplication::clipboard()->clear();  // an empty clipboard keeps the picture, and says nothing
+  EXPECT_THAT(dialogs.messages, IsEmpty());
+  QGuiApplication::clipboard()->clear();  // an empty clipboard keeps the picture, and says so
   Click("Command1");
   EXPECT_EQ(Text("Text1") + Text("Text2"), "&H18&H14");
-  EXPECT_THAT(dialogs.messages, IsEmpty());
+  EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("The clipboard holds no picture. The map keeps its picture."));
 }
 
 }  // namespace
