@@ -8,6 +8,7 @@
 #include <random>
 #include <regex>
 
+#include "editors/Form9.h"
 #include "editors/NameEditors.h"
 #include "events/EventSelection.h"
 #include "events/PersonRecord.h"
@@ -109,7 +110,7 @@ struct User {
 
   // A builder's fields, filled for all three forms at once; then the form's button.
   void Insert(WindowName window, Ranges& may) {
-    Load(window);
+    if (careful || Die(4) > 0) Load(window);  // else the form on show, maybe of the ROM before
     Type({&s.form3.pkmntxt, &s.form4.pkmntxt, &s.form5.pkmntxt, &s.form3.crytxt, &s.form4.crytxt, &s.form3.Text2,
           &s.form4.Text2}, 412);
     Type({&s.form5.Text2}, 347);
@@ -158,6 +159,12 @@ struct User {
          fields[Die(std::size(fields))]->text = Number(Die(2) ? 412 : 0x10000);
          if (!careful && Die(4) == 0) s.form1.scriptpointxt.text = Offset();
          Die(2) ? Pick(s.form1, s.form1.Combo2, SetCombo2Selection) : SetBehavtxt(s.form1, Number(12));
+       }},
+      {"leave Unsupported ROM", false, [this](Ranges&) {  // whether or not it stands
+         if (Die(2)) return PressQuit(s.form9, ui);
+         s.form9.Text1.text = Offset();
+         s.form9.Text2.text = Offset();
+         PressContinue(s.form9, s.form1, ui);
        }},
       {"list a script", false, [this](Ranges&) {
          s.form1.Text3.text = Offset();
@@ -248,13 +255,33 @@ TEST(UserRoadsTest, NoActionWritesOutsideTheBytesItNames) {
   int writes = 0;
   for (int step = 0; step < kSteps; ++step) {
     const std::string path = user.s.rom.romPath();
-    const std::size_t pick = user.Die(std::ssize(user.actions) + 1);
-    const std::string name = pick < user.actions.size() ? std::string(user.actions[pick].name) : "open";
+    const std::size_t pick = user.Die(std::ssize(user.actions) + 2);
+    const std::string name = pick < user.actions.size() ? std::string(user.actions[pick].name)
+                             : pick == user.actions.size() ? "open" : "replace";
+    const std::string where = "seed " + std::to_string(kSeed) + ", step " + std::to_string(step) + ": " + name;
     Ranges may;
+    if (name == "replace") {  // another program puts another ROM at a path, by a rename over it or in place
+      const std::string& target = std::next(last.begin(), user.Die(std::ssize(last)))->first;
+      const Bytes content = std::next(last.begin(), user.Die(std::ssize(last)))->second;
+      const bool renamed = user.Die(2);
+      std::ofstream(ToFilePath(renamed ? target + ".new" : target), std::ios::binary | std::ios::in | std::ios::out |
+                                                                      std::ios::trunc)
+          .write(reinterpret_cast<const char*>(content.data()), kRomSize);
+      std::error_code refused;  // Windows renames nothing over a file that is open
+      if (renamed) std::filesystem::rename(ToFilePath(target + ".new"), ToFilePath(target), refused);
+      if (!refused) last[target] = content;
+      std::filesystem::remove(ToFilePath(target + ".new"), refused);
+      continue;
+    }
+    // A write to a file that is no longer at its path is no write a person can see: never "Saved".
+    const bool away = user.s.rom.IsOpen() && !user.s.rom.StillAtItsPath();
+    const std::size_t told = user.ui.messages.size();
     name == "open" ? user.Open(user.Die(8) ? std::next(last.begin(), user.Die(std::ssize(last)))->first : "")
                    : (void)user.Do(name, &may);
+    for (std::size_t m = told; away && m < user.ui.messages.size(); ++m) {
+      ASSERT_TRUE(user.ui.messages[m].text != "Saved" && user.ui.messages[m].text != "Inserted") << where;
+    }
     if (path.empty()) continue;
-    const std::string where = "seed " + std::to_string(kSeed) + ", step " + std::to_string(step) + ": " + name;
     std::ifstream file(ToFilePath(path), std::ios::binary);
     ASSERT_TRUE(file.read(reinterpret_cast<char*>(now.data()), kRomSize) && file.peek() == EOF) << where << " resized";
     Bytes& before = last[path];
