@@ -72,8 +72,13 @@ PersonRecord ReadPersonRecord(Form1& form, RomImage& rom) {
   if (form.personOffset.empty()) {
     throw Failure("No event is picked, so there is no person record to read. Pick an event in the list first.");
   }
-  rom.Seek(ParseOffset(form.personOffset, "Person offset"));
-  return PersonRecord::FromBytes(rom.ReadBytes(PersonRecord::kSize));
+  const RomOffset at = ParseOffset(form.personOffset, "Person offset");
+  const Bytes bytes = rom.ReadBytes(at, PersonRecord::kSize);
+  // Bytes past the end of the file would show as zeros, a record that is not in the file.
+  if (bytes.size() < PersonRecord::kSize) {
+    throw Failure("The person record at " + ToHexText(at) + " does not lie wholly inside the ROM, so it was not read.");
+  }
+  return PersonRecord::FromBytes(bytes);
 }
 
 }  // namespace

@@ -360,7 +360,7 @@ TEST_F(BrokenRomTest, EveryButtonSaysWhyAndWritesNothing) {
   PressEveryButton({
       {"read-only", {}, "read-only"},
       {"cut short below its tables while open", [&](User&) { std::filesystem::resize_file(ToFilePath(path), 0x100000); },
-       "end of the ROM|wholly inside the ROM"},
+       "end of the ROM|wholly inside the ROM|not loaded whole"},
       // An unknown game: the starter editor and Wingfall do nothing for it.
       {"shorter than its header", [&](User& u) { u.Open(tooShort.path()); }, "^$|end of the ROM|are not known"},
       {"a folder", [&](User& u) { u.Open(ToPathText(folder)); }, "^$|No ROM is open"},
