@@ -17,7 +17,7 @@ using test::ByteOracle;
 // three words, so that the oracle sees every word that "Save" writes.
 TEST(Form2Test, SaveWritesTheRowOfEachListAtTheGamesPlaces) {
   struct Case {
-    const char* code;
+    GameIdentity game;
     std::array<RomOffset, 3> at;
     std::array<std::uint16_t, 3> stored;
     std::array<int, 3> shown;                // rows chosen by the load; -1: the number has no row
@@ -28,23 +28,31 @@ TEST(Form2Test, SaveWritesTheRowOfEachListAtTheGamesPlaces) {
   };
   const std::string noRow = ", which has no row in the list (the last is &H19B). Its list shows no choice, and ";
   const Case cases[] = {
-      {"AXVE", {0x3F76C4, 0x3F76C6, 0x3F76C8}, {0x115, 0x118, 0x11B}, {277, 280, 283}, {}, {{0x3F76C4, 6}},
+      {{"AXVE", 0}, {0x3F76C4, 0x3F76C6, 0x3F76C8}, {0x115, 0x118, 0x11B}, {277, 280, 283}, {}, {{0x3F76C4, 6}},
        "15 01 18 01 1B 01"},
-      {"BPRE", {0x169BB5, 0x169D82, 0x169DB8}, {1, 4, 7}, {1, 4, 7}, {}, {{0x169BB5, 2}, {0x169D82, 2}, {0x169DB8, 2}},
-       "01 00 04 00 07 00"},
-      {"BPGE", {0x169B91, 0x169D5E, 0x169D94}, {0x19B, 0, 0x100}, {411, 0, 256}, {{0, 0}},
+      {{"AXVE", 2}, {0x3F76E0, 0x3F76E2, 0x3F76E4}, {0x115, 0x118, 0x11B}, {277, 280, 283}, {}, {{0x3F76E0, 6}},
+       "15 01 18 01 1B 01"},
+      {{"AXPE", 1}, {0x3F773C, 0x3F773E, 0x3F7740}, {1, 2, 3}, {1, 2, 3}, {}, {{0x3F773C, 6}}, "01 00 02 00 03 00"},
+      {{"BPRE", 0}, {0x169BB5, 0x169D82, 0x169DB8}, {1, 4, 7}, {1, 4, 7}, {},
+       {{0x169BB5, 2}, {0x169D82, 2}, {0x169DB8, 2}}, "01 00 04 00 07 00"},
+      {{"BPRE", 1}, {0x169C2D, 0x169DFA, 0x169E30}, {1, 4, 7}, {1, 4, 7}, {},
+       {{0x169C2D, 2}, {0x169DFA, 2}, {0x169E30, 2}}, "01 00 04 00 07 00"},
+      {{"BPGE", 1}, {0x169C09, 0x169DD6, 0x169E0C}, {1, 4, 7}, {1, 4, 7}, {},
+       {{0x169C09, 2}, {0x169DD6, 2}, {0x169E0C, 2}}, "01 00 04 00 07 00"},
+      {{"BPGE", 0}, {0x169B91, 0x169D5E, 0x169D94}, {0x19B, 0, 0x100}, {411, 0, 256}, {{0, 0}},
        {{0x169B91, 2}, {0x169D5E, 2}, {0x169D94, 2}}, "00 00 00 00 00 01"},
-      {"AXPE", {0x3F771C, 0x3F771E, 0x3F7720}, {0x1F4, 2, 0xFFFF}, {-1, 2, -1}, {{2, 5}}, {{0x3F771C, 6}},
+      {{"AXPE", 0}, {0x3F771C, 0x3F771E, 0x3F7720}, {0x1F4, 2, 0xFFFF}, {-1, 2, -1}, {{2, 5}}, {{0x3F771C, 6}},
        "F4 01 02 00 05 00",
        {"Ball 1 holds species &H1F4" + noRow + "\"Save\" writes &H1F4 back unless you choose a row for it.\nBall 3 "
         "holds species &HFFFF" + noRow + "\"Save\" writes &HFFFF back unless you choose a row for it.", "Saved"}},
-      {"BPEJ", {0x590C08, 0x590C0A, 0x590C0C}, {0x115, 0x118, 0x11B}, {277, 280, 283}, {}, {{0x590C08, 6}},
+      {{"BPEJ", 0}, {0x590C08, 0x590C0A, 0x590C0C}, {0x115, 0x118, 0x11B}, {277, 280, 283}, {}, {{0x590C08, 6}},
        "15 01 18 01 1B 01"},
-      {"ABCD", {0x3F76C4, 0x3F76C6, 0x3F76C8}, {1, 2, 3}, {0, 0, 0}, {}, {}, "AA AA AA AA AA AA", {}},
+      {{"ABCD", 0}, {0x3F76C4, 0x3F76C6, 0x3F76C8}, {1, 2, 3}, {0, 0, 0}, {}, {}, "AA AA AA AA AA AA", {}},
+      {{"AXVE", 3}, {0x3F76C4, 0x3F76C6, 0x3F76C8}, {1, 2, 3}, {0, 0, 0}, {}, {}, "AA AA AA AA AA AA", {}},
   };
   for (const Case& c : cases) {
-    SCOPED_TRACE(c.code);
-    test::FixtureRom fixture(c.code);
+    SCOPED_TRACE(ShownIdentity(c.game));
+    test::FixtureRom fixture(c.game.code, test::FixtureRom::kSize, c.game.revision);
     for (int i = 0; i < 3; ++i) fixture.PutWord(c.at[i], c.stored[i]);
     test::MainSession s;
     s.Open(fixture.path());

@@ -188,6 +188,10 @@ TEST(ScriptFormsTest, TheItemListIsReadFromTheRomThatIsOpenAndOnlyWhenItIsNeeded
   s.Open(fireRed.path());
   EXPECT_EQ(s.Item(1), "001 - Elixir");
   EXPECT_EQ(s.session.form1.itemRecords, "&H3DB028");
+  FixtureRom fireRed11("BPRE", FixtureRom::kSize, 1);  // its items lie elsewhere
+  fireRed11.PutName(0x3DB098 + 44, "Ether", 14);
+  s.Open(fireRed11.path());
+  EXPECT_EQ(s.Item(1), "001 - Ether");
   EXPECT_EQ(s.session.form5.Combo1.rows, s.session.form1.Combo1.rows);
 
   s.Open("");  // cancelled: no ROM open, no list
@@ -218,6 +222,10 @@ TEST(NameEditorMenuTest, TheTwoAnswersWriteTheEncodedNameAndNothingElse) {
   const Case cases[] = {
       {"AXVE", MenuEntry::mnuedipmon, "&H19", "PIKA", {{0x1F727F, 11}}, "CA C3 C5 BB 00 00 00 00 00 00 00",
        "019 - PIKA      "},
+      {"AXPE 2", MenuEntry::mnuedipmon, "&H19", "PIKA", {{0x1F7227, 11}}, "CA C3 C5 BB 00 00 00 00 00 00 00",
+       "019 - PIKA      "},
+      {"BPGE 1", MenuEntry::mnuediten, "2", "Abcdefghijklmno", {{0x3DAF2C, 14}},
+       "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
       {"AXVE", MenuEntry::mnuedipmon, "&H19", "AB[PK]CDEFGHIJ", {{0x1F727F, 8}}, "BB BC 53 BD BE BF C0 C1",
        "019 - ABPKCDEFG"},
       {"BPRE", MenuEntry::mnuedipmon, "", "", {{0x245EE0, 11}}, "00 00 00 00 00 00 00 00 00 00 00",
@@ -237,7 +245,7 @@ TEST(NameEditorMenuTest, TheTwoAnswersWriteTheEncodedNameAndNothingElse) {
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(std::string(c.code) + " " + c.number.value_or("(cancel)") + " " + c.name.value_or("(cancel)"));
-    test::FixtureRom fixture(c.code);
+    test::FixtureRom fixture(std::string(c.code).substr(0, 4), test::FixtureRom::kSize, c.code[4] ? c.code[5] - '0' : 0);
     Opened s;
     s.Open(fixture.path());
     if (c.typedInForm9[0] != nullptr) {
