@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <span>
 
 #include "braille/Form6.h"
 #include "editors/Form9.h"
@@ -102,12 +103,13 @@ void GiftOnFireRed(Desk& d) {
   d.s.form5.Text12.text = "&H7A0000";
 }
 
+// The system refuses every write from `limit` bytes into a file on, while `save` runs.
 void SaveWithWritesRefusedFrom(std::uint64_t limit, const std::function<void()>& save) {
-#ifdef _WIN32
-  GTEST_SKIP() << "Windows has no limit on the size of a file a process writes";
-#else
+#ifndef _WIN32
   const test::WriteLimit refused(limit);
   save();
+#else
+  static_cast<void>(limit), static_cast<void>(save);
 #endif
 }
 
@@ -199,6 +201,23 @@ const Road kRoads[] = {
      },
      [](Desk& d) { d.Menu(MenuEntry::mnuedipmon, {"&H1", "AB"}); }, {},
      "no longer names the game that was opened (AXVE): it now reads \"BPRE\""},
+    {"starters past the end of a short ROM show no value",
+     [](Desk& d) {
+       test::FixtureRom shortRuby = Desk::Fixture({"AXVE", 0});
+       d.Open(shortRuby);
+       std::filesystem::resize_file(ToFilePath(d.path), 0x300000);
+     },
+     [](Desk& d) {
+       EXPECT_THAT(test::FailureOf([&] { d.Show(WindowName::Form2); }), HasSubstr("past the end of the file"));
+       EXPECT_EQ(d.s.form2.Combo1.selected, -1);
+       EXPECT_EQ(d.s.form2.Combo1.text, "");
+       PressSave(d.s.form2, d.s.form1, d.s.rom, d.ui);
+     },
+     {}, "would run past the end of the ROM"},
+};
+
+// Actions that write in steps, stopped by the system part way through.
+const Road kStoppedRoads[] = {
     {"a gift stopped at its third write says what it wrote", GiftOnFireRed,
      [](Desk& d) {
        d.ui.inputAnswers = {"AB"};
@@ -248,27 +267,13 @@ const Road kRoads[] = {
      {{0x38EE51, 1}},
      "Written before it stopped: 22 bytes at &H38EE50 (the person record). Not written: 2 bytes at &HA00103 (the "
      "Pokemon word) and the Cry word."},
-    {"starters past the end of a short ROM show no value",
-     [](Desk& d) {
-       test::FixtureRom shortRuby = Desk::Fixture({"AXVE", 0});
-       d.Open(shortRuby);
-       std::filesystem::resize_file(ToFilePath(d.path), 0x300000);
-     },
-     [](Desk& d) {
-       EXPECT_THAT(test::FailureOf([&] { d.Show(WindowName::Form2); }), HasSubstr("past the end of the file"));
-       EXPECT_EQ(d.s.form2.Combo1.selected, -1);
-       EXPECT_EQ(d.s.form2.Combo1.text, "");
-       PressSave(d.s.form2, d.s.form1, d.s.rom, d.ui);
-     },
-     {}, "would run past the end of the ROM"},
 };
 
-TEST(CrossRoadsTest, EachRoadWritesOnlyItsBytesAndSaysWhatHappened) {
-  for (const Road& road : kRoads) {
+void Walk(std::span<const Road> roads) {
+  for (const Road& road : roads) {
     SCOPED_TRACE(road.name);
     Desk d;
     road.before(d);
-    if (::testing::Test::IsSkipped()) return;
     d.ui.messages.clear();
     const test::ByteOracle oracle(d.path);
     std::string said = test::FailureOf([&] { road.act(d); });
@@ -277,6 +282,15 @@ TEST(CrossRoadsTest, EachRoadWritesOnlyItsBytesAndSaysWhatHappened) {
     EXPECT_EQ(*road.says == '\0', said.empty()) << said;
     EXPECT_EQ(oracle.Changes(), road.changes);
   }
+}
+
+TEST(CrossRoadsTest, EachRoadWritesOnlyItsBytesAndSaysWhatHappened) { Walk(kRoads); }
+
+TEST(CrossRoadsTest, AnActionStoppedPartWaySaysWhatItWroteAndWhatNot) {
+#ifdef _WIN32
+  GTEST_SKIP() << "Windows has no limit on the size of a file a process writes";
+#endif
+  Walk(kStoppedRoads);
 }
 
 // A file that cannot be written says so the moment it opens.
