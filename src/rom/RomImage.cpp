@@ -14,6 +14,7 @@
 #define NOMINMAX
 #endif
 #define WIN32_LEAN_AND_MEAN
+#include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 #else
@@ -29,10 +30,45 @@ std::string HexPosition(std::int64_t position) {
 
 std::string SystemReason(int error) { return error != 0 ? std::strerror(error) : "unknown error"; }
 
+#ifdef _WIN32
+// The C library's error number of a failed open, for the sentence that tells it.
+int ErrorNumberOf(DWORD error) {
+  switch (error) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_NAME:
+      return ENOENT;
+    case ERROR_ACCESS_DENIED:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_WRITE_PROTECT:
+    case ERROR_LOCK_VIOLATION:
+      return EACCES;
+    default:
+      return EIO;
+  }
+}
+#endif
+
 std::FILE* OpenUnbuffered(const std::filesystem::path& file, bool writable) {
 #ifdef _WIN32
-  // The wide call: the narrow one would read the name in the ANSI code page.
-  std::FILE* handle = ::_wfopen(file.c_str(), writable ? L"r+b" : L"rb");
+  // The wide call: the narrow one would read the name in the ANSI code page. Other programs
+  // may read, write, rename and delete the file while it is open, as they may elsewhere: a
+  // tool that saves by renaming a new file over it is not locked out, and Tessarine finds
+  // the file replaced before it writes (StillAtItsPath).
+  const HANDLE system = ::CreateFileW(file.c_str(), GENERIC_READ | (writable ? GENERIC_WRITE : 0),
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (system == INVALID_HANDLE_VALUE) {
+    errno = ErrorNumberOf(::GetLastError());
+    return nullptr;
+  }
+  const int descriptor = ::_open_osfhandle(reinterpret_cast<intptr_t>(system), writable ? _O_RDWR : _O_RDONLY);
+  if (descriptor == -1) {
+    ::CloseHandle(system);
+    return nullptr;
+  }
+  std::FILE* handle = ::_fdopen(descriptor, writable ? "r+b" : "rb");
+  if (handle == nullptr) ::_close(descriptor);
 #else
   std::FILE* handle = std::fopen(file.c_str(), writable ? "r+b" : "rb");
 #endif

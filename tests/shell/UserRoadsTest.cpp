@@ -267,10 +267,7 @@ TEST(UserRoadsTest, NoActionWritesOutsideTheBytesItNames) {
       std::ofstream(ToFilePath(renamed ? target + ".new" : target), std::ios::binary | std::ios::in | std::ios::out |
                                                                       std::ios::trunc)
           .write(reinterpret_cast<const char*>(content.data()), kRomSize);
-      std::error_code refused;  // Windows renames nothing over a file that is open
-      if (renamed) std::filesystem::rename(ToFilePath(target + ".new"), ToFilePath(target), refused);
-      if (!refused) last[target] = content;
-      std::filesystem::remove(ToFilePath(target + ".new"), refused);
+      if (!renamed || test::RenameOver(target + ".new", target)) last[target] = content;
       continue;
     }
     // A write to a file that is no longer at its path is no write a person can see: never "Saved".

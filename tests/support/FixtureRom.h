@@ -73,6 +73,16 @@ inline std::filesystem::path TemporaryPath(std::string_view stem) {
          ("tessarine-" + run + "-" + std::to_string(counter++) + "-" + std::string(stem));
 }
 
+// Puts the file `from` at the name `to`, as a program that saves a new file does: by a rename
+// over it. False where the system refuses (Windows renames nothing over a file that is open,
+// nor frees the name of one deleted while open): the file at `to` stays, and `from` goes.
+inline bool RenameOver(const std::string& from, const std::string& to) {
+  std::error_code refused, ignored;
+  std::filesystem::rename(ToFilePath(from), ToFilePath(to), refused);
+  if (refused) std::filesystem::remove(ToFilePath(from), ignored);
+  return !refused;
+}
+
 // A ROM image made by the tests: 16 MiB of 0xFF with a chosen game code and revision in
 // the header, and whatever a test puts at its offsets. Nothing in it comes from a real game.
 // The image lives in memory until path() writes it to a temporary file of its own, which is
