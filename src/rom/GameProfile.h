@@ -66,9 +66,8 @@ struct EventPlace {
 // The main window's offsets are "&H" and six digits and carry the names of the state fields
 // they are copied into; the same field serves different events in the families rs and frlg.
 // Family e has more events than those fields: its events' places stand in `eventPlaces`, and
-// the fields stay empty. A game that
-// Open ROM does not take (Japanese Emerald) has no family and no such offsets: only the
-// starter editor and Wingfall know it.
+// the fields stay empty. A game that Open ROM does not take (Japanese Emerald) has no family
+// and no such offsets: only the starter editor and Wingfall know it.
 struct GameProfile {
   std::string_view code;
   int revision;
