@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   Game& game = *games[which];
   RomImage& rom = game.session.rom;
-  const int index = static_cast<int>(in.Number(1) % 8);  // the lists hold 7 and 6 entries
+  const int index = static_cast<int>(in.Number(1) % 14);  // the lists hold 7, 6 and 13 entries
   const bool listed = static_cast<std::size_t>(index) < game.events.size();
   const RomOffset person = listed ? game.events[index].person : 0;
   const Bytes record = in.Block(listed ? PersonRecord::kSize : 0);

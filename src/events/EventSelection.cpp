@@ -22,15 +22,19 @@ void ResetEventFields(Form1& form) {
 
 void SelectEvent(Form1& form, RomImage& rom, Dialogs& dialogs, int index) {
   const EventEntry* event = FindEvent(form.cowmoo, index);
-  if (event == nullptr) return;  // no event of the open ROM's list: nothing to select
+  // No event of the open ROM's list, or one that the open game's profile does not place (a
+  // game opened since that has none): nothing to select.
+  const std::string person = event != nullptr ? PersonOffsetOf(form, *event) : std::string();
+  if (person.empty()) return;
   form.whee = std::to_string(index);
   ResetEventFields(form);
-  form.personOffset = form.*(event->personField);
+  form.personOffset = person;
   form.eventFields.Fill(form);
-  if (form.cowmoo == kFamilyRs) {
+  if (FollowsRs(form.cowmoo)) {
     form.Combo1.enabled = true;
     if (index > 0) form.Command9.enabled = true;
-  } else if (event->layout == nullptr && index > 0) {  // Deoxys: no words to load
+  }
+  if (event->layout == nullptr && index > 0) {  // Deoxys (frlg), Latias/Latios (e): no words to load
     dialogs.Message("Sorry But script Loading for this Pokemon is not yet supported.");
   }
   LoadPerson(form, rom, dialogs);
@@ -55,6 +59,10 @@ void SetCombo3Selection(Form1& form, RomImage& rom, Dialogs& dialogs, int index)
 
 void SetCombo4Selection(Form1& form, RomImage& rom, Dialogs& dialogs, int index) {
   if (form.Combo4.Show(index)) SelectEvent(form, rom, dialogs, index);
+}
+
+void SetCombo5Selection(Form1& form, RomImage& rom, Dialogs& dialogs, int index) {
+  if (form.Combo5.Show(index)) SelectEvent(form, rom, dialogs, index);
 }
 
 }  // namespace tessarine

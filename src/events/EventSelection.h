@@ -21,5 +21,6 @@ void SelectSpecies(Form1& form, int index);
 void SetCombo1Selection(Form1& form, int index);                                 // runs SelectSpecies
 void SetCombo3Selection(Form1& form, RomImage& rom, Dialogs& dialogs, int index);  // runs SelectEvent
 void SetCombo4Selection(Form1& form, RomImage& rom, Dialogs& dialogs, int index);  // runs SelectEvent
+void SetCombo5Selection(Form1& form, RomImage& rom, Dialogs& dialogs, int index);  // runs SelectEvent
 
 }  // namespace tessarine

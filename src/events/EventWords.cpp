@@ -63,19 +63,12 @@ std::string LeftAloneMessage(const std::vector<const EventWord*>& leftAlone,
 
 }  // namespace
 
-void LoadEventWords(Form1& form, RomImage& rom, Dialogs& dialogs) {
-  if (form.cowmoo == kFamilyE) {
-    dialogs.Message("Load not supported");
-    return;
-  }
-  if (const EventWordLayout* layout = SelectedWordLayout(form)) {
-    if (layout->scriptSource != ScriptSource::PersonRecord) {
-      if (const GameProfile* profile = ProfileOf(form)) {
-        const std::string_view constant =
-            layout->scriptSource == ScriptSource::LatiScript ? profile->latiScript : profile->groudonScript;
-        form.scriptpointxt.text = constant;
-        form.Text3.text = constant;
-      }
+void LoadEventWords(Form1& form, RomImage& rom, Dialogs& /*dialogs*/) {
+  const EventEntry* event = SelectedEvent(form);
+  if (const EventWordLayout* layout = event != nullptr ? event->layout : nullptr) {
+    if (const std::string_view constant = FixedScriptOf(form, *event); !constant.empty()) {
+      form.scriptpointxt.text = constant;
+      form.Text3.text = constant;
     }
     const RomOffset script = ParseOffset(form.scriptpointxt.text, "Script");
     const RomOffset firstAt = OffsetPlus(script, layout->firstWordAt);
@@ -99,14 +92,10 @@ void LoadEventWords(Form1& form, RomImage& rom, Dialogs& dialogs) {
                           layout->listFollowsSecond ? secondAt : firstAt, followed};
     }
   }
-  if (form.cowmoo == kFamilyRs) form.flagtxt.text = ToHexText(form.personFlag);
+  if (FollowsRs(form.cowmoo)) form.flagtxt.text = ToHexText(form.personFlag);
 }
 
 void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs, RomWrite& write) {
-  if (form.cowmoo == kFamilyE) {
-    dialogs.Message("Save not supported");
-    return;
-  }
   const EventWordLayout* layout = SelectedWordLayout(form);
   if (layout == nullptr) return;
 

@@ -8,8 +8,9 @@ class Dialogs;
 class RomWrite;
 
 // Reads the two event words of the selected event at their distances from the script
-// offset, shows them and moves the species list to the one it follows. In Ruby and
-// Sapphire it then puts back the flag of the last person load or save.
+// offset, shows them and moves the species list to the one it follows. In Ruby, Sapphire and
+// Emerald it then puts back the flag of the last person load or save. It tells the person
+// nothing: an event without words says so when it is picked (SelectEvent).
 void LoadEventWords(Form1& form, RomImage& rom, Dialogs& dialogs);
 
 // Writes hoobla and hoobla2 as the event's two words, after SavePerson has written the

@@ -72,13 +72,10 @@ PersonRecord ReadPersonRecord(Form1& form, RomImage& rom) {
   if (form.personOffset.empty()) {
     throw Failure("No event is picked, so there is no person record to read. Pick an event in the list first.");
   }
-  const RomOffset at = ParseOffset(form.personOffset, "Person offset");
-  const Bytes bytes = rom.ReadBytes(at, PersonRecord::kSize);
-  // Bytes past the end of the file would show as zeros, a record that is not in the file.
-  if (bytes.size() < PersonRecord::kSize) {
-    throw Failure("The person record at " + ToHexText(at) + " does not lie wholly inside the ROM, so it was not read.");
-  }
-  return PersonRecord::FromBytes(bytes);
+  const RomOffset offset = ParseOffset(form.personOffset, "Person offset");
+  rom.Seek(offset);  // first: no ROM open, or an offset below 0, is told as such
+  if (auto outside = PersonRecordOutsideRom(rom, offset)) throw Failure(*outside + " Nothing of it was read.");
+  return PersonRecord::FromBytes(rom.ReadBytes(PersonRecord::kSize));
 }
 
 }  // namespace
@@ -93,6 +90,12 @@ Bytes PersonRecord::ToBytes() const {
   Bytes bytes;
   ForEachField(*this, FieldWriter(bytes));
   return bytes;
+}
+
+std::optional<std::string> PersonRecordOutsideRom(const RomImage& rom, RomOffset offset) {
+  if (rom.Holds(offset, PersonRecord::kSize)) return std::nullopt;
+  return "The person record at " + ToHexText(offset) + " does not lie wholly inside the ROM, which is " +
+         ToHexText(static_cast<RomOffset>(std::min<std::int64_t>(rom.Length(), INT32_MAX))) + " bytes long.";
 }
 
 std::vector<std::string> MovementTypeTexts() {

@@ -2,10 +2,12 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "rom/Bytes.h"
+#include "rom/GbaPointer.h"
 
 namespace tessarine {
 
@@ -36,6 +38,10 @@ struct PersonRecord {
   static PersonRecord FromBytes(const Bytes& bytes);  // missing bytes count as 0
   Bytes ToBytes() const;
 };
+
+// Why the person record at `offset` can be neither loaded nor saved: the file ends before its
+// 22 bytes do. None where the file holds all of them.
+std::optional<std::string> PersonRecordOutsideRom(const RomImage& rom, RomOffset offset);
 
 // The twelve movement types of the list Combo2; the row is the value of `behaviour`.
 std::vector<std::string> MovementTypeTexts();

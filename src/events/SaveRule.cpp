@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "events/EventCatalogue.h"
+#include "events/PersonRecord.h"
 #include "forms/Form1.h"
 #include "forms/ListRows.h"
 #include "rom/Failure.h"
@@ -48,6 +49,9 @@ std::optional<std::string> SaveRefusal(const Form1& form, const RomImage& rom) {
     return "Pick an event in the list before saving: no event was picked since the ROM now open was opened, "
            "and a save would write at offsets that may not belong to it.";
   }
+  std::optional<std::string> outside;
+  ParseFailure([&] { outside = PersonRecordOutsideRom(rom, ParseOffset(form.personOffset)); });
+  if (outside) return outside;
   if (!form.personLoaded) {
     return "The person record of this event was not loaded whole: its last load stopped before it reached the "
            "Flag, so a save would write a Flag that was not read from the record.";

@@ -16,6 +16,7 @@ class RomImage;
 //   - a ROM is open;
 //   - the event fields were loaded from the ROM now open: after an Open ROM, an event must
 //     be picked again;
+//   - the person record lies wholly inside the ROM;
 //   - the last person load read the record whole, Flag included (a script pointer that
 //     cannot become an offset stops it before the Flag);
 //   - Sprite and Flag are words and Behavior a byte;

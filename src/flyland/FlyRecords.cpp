@@ -47,6 +47,13 @@ const LocationList kHoennLocations = {
     "Pacifidlog Town",       "Ever Grande City",       "Battle Tower",     "Southern Island",
 };
 
+const LocationList kEmeraldLocations = [] {
+  LocationList entries = kHoennLocations;
+  entries[18] = "Southern Island";
+  entries[19] = "Battle Frontier";
+  return entries;
+}();
+
 std::optional<FlyTable> FindFlyTable(const GameIdentity& game) {
   const GameProfile* profile = FindGameProfile(game);
   if (profile == nullptr) return std::nullopt;

@@ -30,12 +30,13 @@ inline constexpr int kFlyRecordCount = 20;
 
 using LocationList = std::array<std::string_view, kFlyRecordCount>;
 
-// The entries of the two location lists, in the order of the records: entry i names
+// The entries of the location lists, in the order of the records: entry i names
 // record i. The lists are not sorted ("Seven Island" before "Six Island"), "Ever Grande
 // City" stands twice in hoenn for two records, and Littleroot Town has one record for
 // each player character.
 extern const LocationList kKantoLocations;
 extern const LocationList kHoennLocations;
+extern const LocationList kEmeraldLocations;  // hoenn, but 18 "Southern Island", 19 "Battle Frontier"
 
 // One game's fly table: where record 0 lies and which location list names its records, as
 // the game's profile gives them. Nothing is searched for or checked.

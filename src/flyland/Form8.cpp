@@ -23,7 +23,9 @@ void ShowRecord(Form8& form, const FlyRecord& record) {
 }  // namespace
 
 std::vector<std::string> LocationRows(FlyList list) {
-  const LocationList& entries = list == FlyList::kanto ? kKantoLocations : kHoennLocations;
+  const LocationList& entries = list == FlyList::kanto     ? kKantoLocations
+                                : list == FlyList::emerald ? kEmeraldLocations
+                                                           : kHoennLocations;
   return {entries.begin(), entries.end()};
 }
 
@@ -37,7 +39,8 @@ void LoadForm8(Form8& form, const Form1& main, Dialogs& dialogs) {
     dialogs.Message("Unsupported Rom. Please Load a Different Rom.");
     return;
   }
-  if (main.headtxt == "BPEJ") {
+  if (table->list != FlyList::kanto) form.hoenn.rows = LocationRows(table->list);  // Emerald's, or hoenn's
+  if (main.headtxt == "BPEJ" || table->list == FlyList::emerald) {  // Emerald, Japanese or English
     ShowMapPicture(form, MapPicture::Picture3, kPicture3Size);
   } else if (table->list == FlyList::kanto) {
     ShowMapPicture(form, MapPicture::Picture4, kPicture4Size);

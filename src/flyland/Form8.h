@@ -135,7 +135,8 @@ struct Form8 {
 // table keeps everything disabled and hears "Unsupported Rom. Please Load a Different Rom.".
 void LoadForm8(Form8& form, const Form1& main, Dialogs& dialogs);
 
-// A location picked in kanto or hoenn: it becomes mapnumber and its record loads.
+// A location picked in kanto or in hoenn (which shows Emerald's list on English Emerald): it
+// becomes mapnumber and its record loads.
 void SelectLocation(Form8& form, RomImage& rom, const Form1& main, FlyList list, int index);
 
 // Load: shows bank, level and landing tile of the record mapnumber names, and puts the

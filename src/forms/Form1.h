@@ -50,6 +50,8 @@ struct Form1 {
   int revision = kNoRevision;  // the revision byte read with it
   std::string cowmoo;        // the game family, "rs", "frlg" or "e"
   std::string Label20 = "&H1F716C";
+  // Label1 to regi3: the persons of the events of rs and frlg. An open of family e empties them: its
+  // events take their places from the profile (GameProfile::eventPlaces).
   std::string Label1 = "&H38EE50";
   std::string raytxt;
   std::string grou;
@@ -73,6 +75,7 @@ struct Form1 {
   // Event workspace.
   ComboBox Combo3{.text = "Select a Event", .enabled = false};
   ComboBox Combo4{.text = "Select a Event", .visible = false};
+  ComboBox Combo5{.text = "Select a Event", .visible = false};  // family e, in the same place
   Button Command10{.caption = "load", .enabled = false};
   Button Command9{.caption = "Save", .enabled = false};
   Label Label6{"Sprite:"};

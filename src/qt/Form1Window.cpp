@@ -132,9 +132,11 @@ void Form1Window::BuildWidgets() {
   Combo3_->setEditable(true);
   Combo4_ = Named(new QComboBox(this), "Combo4");
   Combo4_->setEditable(true);
+  Combo5_ = Named(new QComboBox(this), "Combo5");
+  Combo5_->setEditable(true);
   // The event lists take typed text, and typed text does nothing: no completion, and Enter
   // picks no entry. Only picking one from the list selects an event.
-  for (QComboBox* events : {Combo3_, Combo4_}) {
+  for (QComboBox* events : {Combo3_, Combo4_, Combo5_}) {
     events->setInsertPolicy(QComboBox::NoInsert);
     events->setMinimumContentsLength(16);
     events->setCompleter(nullptr);
@@ -194,7 +196,7 @@ void Form1Window::BuildWidgets() {
   // The event workspace beside the picture.
   auto* fields = new QGridLayout;
   fields->setHorizontalSpacing(8);
-  fields->addWidget(OnePlace(this, {Combo3_, Combo4_}), 0, 0, 1, 4);
+  fields->addWidget(OnePlace(this, {Combo3_, Combo4_, Combo5_}), 0, 0, 1, 4);
   auto* loadSave = new QHBoxLayout;
   loadSave->addWidget(Command10_);
   loadSave->addWidget(Command9_);
@@ -248,9 +250,10 @@ void Form1Window::BuildWidgets() {
   window->addWidget(Text4_, 1);
 
   // Keyboard order: top to bottom, left to right, as the rows read.
-  QWidget* const order[] = {Image3_,  Image4_, Image5_,  Combo3_, Combo4_,  Command10_, Command9_,
-                            spritetxt_, scriptpointxt_, Command6_, frlgl_, flagtxt_, Combo2_, Combo1_,
-                            Text2_,   hoobla2_, Text3_,  Command2_, Check1_, Command8_, Text4_};
+  QWidget* const order[] = {Image3_,  Image4_,  Image5_,    Combo3_,        Combo4_,   Combo5_, Command10_,
+                            Command9_, spritetxt_, scriptpointxt_, Command6_, frlgl_,  flagtxt_,
+                            Combo2_,  Combo1_,  Text2_,     hoobla2_,       Text3_,    Command2_, Check1_,
+                            Command8_, Text4_};
   for (std::size_t i = 1; i < std::size(order); ++i) {
     QWidget::setTabOrder(order[i - 1], order[i]);
   }
@@ -273,8 +276,11 @@ void Form1Window::Connect() {
           [this](int i) { shell_.Run([this, i] { SetCombo3Selection(shell_.form1(), shell_.rom(), shell_.dialogs(), i); }); });
   connect(Combo4_, &QComboBox::activated, this,
           [this](int i) { shell_.Run([this, i] { SetCombo4Selection(shell_.form1(), shell_.rom(), shell_.dialogs(), i); }); });
+  connect(Combo5_, &QComboBox::activated, this,
+          [this](int i) { shell_.Run([this, i] { SetCombo5Selection(shell_.form1(), shell_.rom(), shell_.dialogs(), i); }); });
   connect(Combo3_, &QComboBox::editTextChanged, this, [&f](const QString& t) { f.Combo3.text = t.toStdString(); });
   connect(Combo4_, &QComboBox::editTextChanged, this, [&f](const QString& t) { f.Combo4.text = t.toStdString(); });
+  connect(Combo5_, &QComboBox::editTextChanged, this, [&f](const QString& t) { f.Combo5.text = t.toStdString(); });
   connect(Combo2_, &QComboBox::activated, this, [this](int i) { shell_.Run([this, i] { SetCombo2Selection(shell_.form1(), i); }); });
   connect(Combo1_, &QComboBox::activated, this, [this](int i) { shell_.Run([this, i] { SetCombo1Selection(shell_.form1(), i); }); });
 
@@ -307,8 +313,8 @@ void Form1Window::Connect() {
 void Form1Window::Refresh() {
   const Form1& f = shell_.form1();
   // The controls whose changes run actions stay quiet while they take the record's values.
-  QObject* const controls[] = {Combo3_, Combo4_, Combo2_,   Combo1_, spritetxt_, scriptpointxt_, flagtxt_,
-                               Text1_,  hoobla_, Text2_,    hoobla2_, Text3_,    Check1_};
+  QObject* const controls[] = {Combo3_, Combo4_, Combo5_, Combo2_,  Combo1_, spritetxt_, scriptpointxt_,
+                               flagtxt_, Text1_, hoobla_, Text2_,   hoobla2_, Text3_,  Check1_};
   std::vector<std::unique_ptr<QSignalBlocker>> blockers;
   for (QObject* control : controls) blockers.push_back(std::make_unique<QSignalBlocker>(control));
 
@@ -318,6 +324,7 @@ void Form1Window::Refresh() {
   Sync(Image5_->label(), f.Label17);
   combo3_(Combo3_, f.Combo3);
   combo4_(Combo4_, f.Combo4);
+  combo5_(Combo5_, f.Combo5);
   Sync(Command10_, f.Command10);
   Sync(Command9_, f.Command9);
   Sync(Label6_, f.Label6);
@@ -393,8 +400,10 @@ void Form1Window::mouseMoveEvent(QMouseEvent* event) {
 bool Form1Window::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
-    const bool eventList = watched == Combo3_ || watched == Combo4_ || watched == Combo3_->lineEdit() ||
-                           watched == Combo4_->lineEdit();
+    bool eventList = false;
+    for (QComboBox* events : {Combo3_, Combo4_, Combo5_}) {
+      eventList = eventList || watched == events || watched == events->lineEdit();
+    }
     if (eventList && (key == Qt::Key_Return || key == Qt::Key_Enter)) return true;
   }
   return QWidget::eventFilter(watched, event);

@@ -77,6 +77,7 @@ class Form1Window : public QWidget {
   QLabel* Image6_;
   QComboBox* Combo3_;
   QComboBox* Combo4_;
+  QComboBox* Combo5_;
   QPushButton* Command10_;
   QPushButton* Command9_;
   QLabel* Label6_;
@@ -106,7 +107,7 @@ class Form1Window : public QWidget {
   LinedTextBoxWidget* Text4_;
 
   // What the widgets were last given, so that a refresh touches only what changed.
-  ComboSync combo1_, combo2_, combo3_, combo4_;
+  ComboSync combo1_, combo2_, combo3_, combo4_, combo5_;
   unsigned shownText4Puts_ = 0;
 };
 

@@ -27,10 +27,16 @@ namespace {
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 
-// The rows never change; what does is the row on show and, with none, the text shown.
+// The rows change only when the window opens on English Emerald, whose list names two records
+// its own way; what changes at every action is the row on show and, with none, the text shown.
 void Sync(QComboBox* widget, const ComboBox& combo) {
-  if (widget->count() == 0) {
-    for (const std::string& row : combo.rows) widget->addItem(Q(row));
+  QStringList rows;
+  for (const std::string& row : combo.rows) rows << Q(row);
+  QStringList shown;
+  for (int i = 0; i < widget->count(); ++i) shown << widget->itemText(i);
+  if (shown != rows) {
+    widget->clear();
+    widget->addItems(rows);
   }
   widget->setPlaceholderText(Q(combo.text));
   if (widget->currentIndex() != combo.selected) widget->setCurrentIndex(combo.selected);

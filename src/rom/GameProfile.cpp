@@ -28,6 +28,15 @@ constexpr GameProfile kSapphire11{"AXPE", 1, "rs",
                                   "&H160B4B", "&H15DD87", "&H3C55DC",
                                   {0x3F773C, 0x3F773E, 0x3F7740}, 0x3E5AA6, FlyList::hoenn};
 
+// English Emerald's events, in the order of its list: Rayquaza, Kyogre, Groudon, Regirock,
+// Regice, Registeel, Latias/Latios (no script: its species comes from a variable), Deoxys,
+// Mew, Lugia, Ho-Oh, Sudowoodo (whose person's script only shakes the tree).
+constexpr std::array<EventPlace, 12> kEmerald10Events{{
+    {"&H537188", ""},         {"&H5377E8", "&H23B01B"}, {"&H537850", "&H23B0EC"}, {"&H534354", ""},
+    {"&H536C74", ""},         {"&H536CDC", ""},         {"&H53B8B4", ""},         {"&H53D7F4", "&H267FC1"},
+    {"&H53D7A0", ""},         {"&H53DD50", ""},         {"&H53DB74", "&H26916F"}, {"&H53BC48", "&H242CFC"},
+}};
+
 // The revision's own offset of every table; the same revision number, another field.
 constexpr GameProfile Revision(const GameProfile& same, int revision) {
   GameProfile profile = same;
@@ -54,6 +63,8 @@ constexpr std::array kProfiles{
     GameProfile{"BPGE", 1, "frlg",
                 "&H245F2C", "&H3B2824", "&H3B4C4C", "", "&H3B2DCC", "&H3B2170", "&H3B17CC", "", "", "&H3DAED4",
                 {0x169C09, 0x169DD6, 0x169E0C}, 0x3EEAA2, FlyList::kanto},
+    GameProfile{"BPEE", 0, "e", "&H3185C8", "", "", "", "", "", "", "", "", "&H5839A0",
+                {0x5B1DF8, 0x5B1DFA, 0x5B1DFC}, 0x59F54A, FlyList::emerald, kEmerald10Events},
     // Japanese Emerald: Open ROM does not take it; the starter editor and Wingfall know it.
     GameProfile{"BPEJ", 0, "", "", "", "", "", "", "", "", "", "", "",
                 {0x590C08, 0x590C0A, 0x590C0C}, 0x57B11A, FlyList::hoenn},

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -42,16 +43,31 @@ inline constexpr std::string_view kFamilyRs = "rs";
 inline constexpr std::string_view kFamilyFrlg = "frlg";
 inline constexpr std::string_view kFamilyE = "e";
 
-// The fly locations a game's fly table holds, record by record.
-enum class FlyList { kanto, hoenn };
+// Wherever the families rs and frlg take two roads (the main window's buttons and lists, the
+// Flag that a load of the words puts back, the fanfare of a gift), family e takes the road of
+// rs: Emerald is a game of Ruby and Sapphire's kind.
+constexpr bool FollowsRs(std::string_view family) { return family == kFamilyRs || family == kFamilyE; }
+
+// The fly locations a game's fly table holds, record by record: Emerald's are those of Ruby
+// and Sapphire but for its last two records.
+enum class FlyList { kanto, hoenn, emerald };
+
+// Where one legendary event of Emerald lies: its person record and, for an event whose words
+// are not in the script that the person points at, the script that holds them. "&H" and six
+// digits, as the main window's offsets; no script, for an event whose script is the person's.
+struct EventPlace {
+  std::string_view person;
+  std::string_view script;
+};
 
 // Every fixed offset of one revision of one game: the one place where any tool finds where
 // that game keeps its data. Nothing is searched for in the ROM.
 //
 // The main window's offsets are "&H" and six digits and carry the names of the state fields
-// they are copied into; the same field serves different events in the families. A game that
-// Open ROM does not take (Japanese Emerald) has no family and no such offsets: only the
-// starter editor and Wingfall know it.
+// they are copied into; the same field serves different events in the families rs and frlg.
+// Family e has more events than those fields: its events' places stand in `eventPlaces`, and
+// the fields stay empty. A game that Open ROM does not take (Japanese Emerald) has no family
+// and no such offsets: only the starter editor and Wingfall know it.
 struct GameProfile {
   std::string_view code;
   int revision;
@@ -71,6 +87,8 @@ struct GameProfile {
   std::array<RomOffset, 3> starters;
   RomOffset flyTable;  // record 0 of the 20 fly records
   FlyList flyList;
+  // Family e: the place of each event of its list, in the list's order from row 1.
+  std::span<const EventPlace> eventPlaces;
 
   // Whether Open ROM takes the game: it has a family, and the main window's offsets.
   bool Opens() const { return !cowmoo.empty(); }

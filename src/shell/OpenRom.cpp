@@ -13,11 +13,12 @@ namespace {
 
 void ApplyProfile(Form1& form, const GameProfile& profile) {
   form.cowmoo = profile.cowmoo;
-  const bool rs = profile.cowmoo == kFamilyRs;
+  const bool rs = FollowsRs(profile.cowmoo);  // Emerald's buttons and fields are Ruby's
   form.Command6.visible = rs;
   form.frlgl.visible = !rs;
-  form.Combo3.enabled = rs;
+  form.Combo3.enabled = profile.cowmoo == kFamilyRs;
   form.Combo4.enabled = true;
+  form.Combo5.enabled = true;
   form.Command2.enabled = true;
   form.Command9.enabled = true;
   form.Command10.enabled = true;
@@ -81,7 +82,8 @@ void OpenRomFile(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string
     }
     form.rom = "Loaded";
     form.Combo3.visible = profile->cowmoo == kFamilyRs;
-    form.Combo4.visible = !form.Combo3.visible;
+    form.Combo4.visible = profile->cowmoo == kFamilyFrlg;
+    form.Combo5.visible = profile->cowmoo == kFamilyE;
     return;
   }
 
@@ -91,6 +93,7 @@ void OpenRomFile(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string
   // No event list reads this ROM at the offsets of the game opened before.
   form.Combo3.enabled = false;
   form.Combo4.enabled = false;
+  form.Combo5.enabled = false;
   form.Command10.enabled = false;
   form.Command9.enabled = false;
   form.Command6.enabled = false;

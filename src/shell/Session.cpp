@@ -10,6 +10,7 @@ namespace tessarine {
 void LoadForm1(Form1& form) {
   form.Combo3.rows = EventEntryTexts(kFamilyRs);
   form.Combo4.rows = EventEntryTexts(kFamilyFrlg);
+  form.Combo5.rows = EventEntryTexts(kFamilyE);
   form.Combo2.rows = MovementTypeTexts();
 }
 

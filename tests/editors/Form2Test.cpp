@@ -47,6 +47,8 @@ TEST(Form2Test, SaveWritesTheRowOfEachListAtTheGamesPlaces) {
         "holds species &HFFFF" + noRow + "\"Save\" writes &HFFFF back unless you choose a row for it.", "Saved"}},
       {{"BPEJ", 0}, {0x590C08, 0x590C0A, 0x590C0C}, {0x115, 0x118, 0x11B}, {277, 280, 283}, {}, {{0x590C08, 6}},
        "15 01 18 01 1B 01"},
+      {{"BPEE", 0}, {0x5B1DF8, 0x5B1DFA, 0x5B1DFC}, {0x115, 0x118, 0x11B}, {277, 280, 283}, {{1, 0x19B}},
+       {{0x5B1DF8, 6}}, "15 01 9B 01 1B 01"},
       {{"ABCD", 0}, {0x3F76C4, 0x3F76C6, 0x3F76C8}, {1, 2, 3}, {0, 0, 0}, {}, {}, "AA AA AA AA AA AA", {}},
       {{"AXVE", 3}, {0x3F76C4, 0x3F76C6, 0x3F76C8}, {1, 2, 3}, {0, 0, 0}, {}, {}, "AA AA AA AA AA AA", {}},
   };

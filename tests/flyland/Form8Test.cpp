@@ -34,7 +34,8 @@ TEST(FlyRecordsTest, EachGameReadsItsRecordFromItsOwnTable) {
   const std::tuple<GameIdentity, int, std::size_t> cases[] = {
       {{"AXPE", 0}, 0, 0x3E5A86},  {{"AXPE", 0}, 19, 0x3E5B1E}, {{"AXVE", 0}, 17, 0x3E5AB6}, {{"BPRE", 0}, 8, 0x3EEC36},
       {{"BPGE", 0}, 0, 0x3EEA32},  {{"BPEJ", 0}, 3, 0x57B132},  {{"AXVE", 1}, 0, 0x3E5A4A},  {{"AXVE", 2}, 17, 0x3E5AD2},
-      {{"AXPE", 2}, 19, 0x3E5B3E}, {{"BPRE", 1}, 8, 0x3EECA6},  {{"BPGE", 1}, 0, 0x3EEAA2}};
+      {{"AXPE", 2}, 19, 0x3E5B3E}, {{"BPRE", 1}, 8, 0x3EECA6},  {{"BPGE", 1}, 0, 0x3EEAA2},
+      {{"BPEE", 0}, 19, 0x59F5E2}};
   for (const auto& [game, index, offset] : cases) {
     SCOPED_TRACE(ShownIdentity(game) + " " + std::to_string(index));
     FixtureRom fixture(game.code);
@@ -54,12 +55,16 @@ TEST(FlyRecordsTest, EachGameReadsItsRecordFromItsOwnTable) {
 }
 
 TEST(Form8Test, TheWindowOpensByTheGameCode) {
-  const std::tuple<const char*, bool, MapPicture, const char*, bool> cases[] = {
-      // code, kanto on show, picture, Text1 and HScroll1.Max, controls of a record enabled
-      {"AXVE", false, MapPicture::Picture2, "&H14 10", true}, {"BPEJ", false, MapPicture::Picture3, "&H14 10", true},
-      {"BPGE", true, MapPicture::Picture4, "&H18 12", true},  {"bpre", false, MapPicture::Picture2, "&H14 10", false},
-      {"AXVE 3", false, MapPicture::Picture2, "&H14 10", false}};  // a revision of no known table
-  for (const auto& [code, kanto, picture, across, enabled] : cases) {
+  const std::string hoenn = "Battle Tower, Southern Island";
+  const std::tuple<const char*, bool, MapPicture, const char*, bool, std::string> cases[] = {
+      // code, kanto on show, picture, Text1 and HScroll1.Max, controls of a record enabled, its records 18 and 19
+      {"AXVE", false, MapPicture::Picture2, "&H14 10", true, hoenn},
+      {"BPEJ", false, MapPicture::Picture3, "&H14 10", true, hoenn},
+      {"BPEE", false, MapPicture::Picture3, "&H14 10", true, "Southern Island, Battle Frontier"},
+      {"BPGE", true, MapPicture::Picture4, "&H18 12", true, "Seven Island, Six Island"},
+      {"bpre", false, MapPicture::Picture2, "&H14 10", false, hoenn},
+      {"AXVE 3", false, MapPicture::Picture2, "&H14 10", false, hoenn}};  // a revision of no known table
+  for (const auto& [code, kanto, picture, across, enabled, last] : cases) {
     SCOPED_TRACE(code);
     Form8 form;
     ScriptedDialogs dialogs;
@@ -69,6 +74,8 @@ TEST(Form8Test, TheWindowOpensByTheGameCode) {
     LoadForm8(form, main, dialogs);
     EXPECT_EQ(form.kanto.visible, kanto);
     EXPECT_EQ(form.hoenn.visible, !kanto);
+    const std::vector<std::string>& rows = (kanto ? form.kanto : form.hoenn).rows;
+    EXPECT_EQ(rows.at(18) + ", " + rows.at(19), last);
     EXPECT_EQ(form.Picture2.picture, picture);
     EXPECT_EQ(form.Text1.text + " " + std::to_string(form.HScroll1.Max), across);
     EXPECT_EQ(form.Text2.text + " " + std::to_string(form.VScroll1.Max), "&H14 10");

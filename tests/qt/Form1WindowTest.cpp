@@ -95,6 +95,22 @@ TEST_F(Form1WindowTest, AnEventEditAndTwoListingsReachTheRomThroughTheWidgets) {
   EXPECT_EQ(text4->toPlainText().toStdString(), "typed" + listing);  // what the box holds stays
 }
 
+// English Emerald's events stand in Combo5, in the place of the other two lists, and a pick
+// there reaches the core.
+TEST_F(Form1WindowTest, EmeraldsEventListStandsWhereTheOthersStandAndAPickLoadsTheEvent) {
+  test::FixtureRom fixture = test::EventFixtureRom("BPEE");
+  ClickOpen(fixture.path());
+  auto* events = Find<QComboBox>("Combo5");
+  auto* rs = Find<QComboBox>("Combo3");
+  EXPECT_EQ(std::tuple(rs->isVisible(), Find<QComboBox>("Combo4")->isVisible(), events->isVisible(), events->count()),
+            std::tuple(false, false, true, 13));
+  EXPECT_EQ(events->parentWidget(), rs->parentWidget());
+  Pick(events, 2);  // Kyogre
+  EXPECT_EQ(Find("scriptpointxt")->text() + Find("hoobla")->text(), "&H23B01B&H102");
+  EXPECT_TRUE(Find("hoobla2")->isVisible() && Find<QPushButton>("Command6")->isVisible());
+  EXPECT_THAT(dialogs.messages, IsEmpty());
+}
+
 // Whatever ends an action ends it with a sentence, also in an action that starts while
 // another one keeps the events running (as the listing's progress dialog does).
 TEST_F(Form1WindowTest, EveryActionEndsInASentenceAlsoOneStartedInsideAnother) {

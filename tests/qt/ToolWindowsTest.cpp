@@ -233,6 +233,15 @@ TEST_F(ToolWindowsTest, Form6InsertsLoadsAndPreviewsABrailleRecord) {
   EXPECT_EQ(Find<QLabel>("Picture1")->pixmap().size(), QSize(240, 160));
 }
 
+// English Emerald names its last two fly records its own way; the list on show is its own.
+TEST_F(ToolWindowsTest, Form8ShowsEmeraldsOwnLocationsOnEnglishEmerald) {
+  test::FixtureRom fixture("BPEE");
+  ASSERT_TRUE(Open(fixture, MenuEntry::mnuflin, WindowName::Form8));
+  auto* hoenn = Find<QComboBox>("hoenn");
+  EXPECT_EQ(hoenn->count(), 20);
+  EXPECT_EQ(hoenn->itemText(18) + ", " + hoenn->itemText(19), "Southern Island, Battle Frontier");
+}
+
 TEST_F(ToolWindowsTest, Form8ClicksOnTheScrolledMapReachTheRecordAndTheSaveReachesTheFile) {
   constexpr std::size_t kCinnabar = 0x3EEBF6 + 8 * 8;
   test::FixtureRom fixture = test::FixtureRom::FireRed();

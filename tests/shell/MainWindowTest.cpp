@@ -34,6 +34,7 @@ std::string OpenState(const Form1& f) {
   const std::tuple<const char*, bool, bool> controls[] = {
       {"Command6", f.Command6.visible, f.Command6.enabled}, {"frlgl", f.frlgl.visible, f.frlgl.enabled},
       {"Combo3", f.Combo3.visible, f.Combo3.enabled},       {"Combo4", f.Combo4.visible, f.Combo4.enabled},
+      {"Combo5", f.Combo5.visible, f.Combo5.enabled},
       {"Command2", f.Command2.visible, f.Command2.enabled}, {"Command9", f.Command9.visible, f.Command9.enabled},
       {"Command10", f.Command10.visible, f.Command10.enabled}};
   for (const auto& [name, visible, enabled] : controls) {
@@ -43,10 +44,11 @@ std::string OpenState(const Form1& f) {
 }
 
 // One session opens each game and revision in turn. FireRed and LeafGreen keep the grou of the
-// game before, which nothing of theirs reads.
+// game before, which nothing of theirs reads; Emerald empties the persons of the other families.
 TEST(OpenRomTest, AKnownGameSetsTheWindowUpForItsFamilyAndRevision) {
-  const std::string rs = " Command6+ frlgl- Combo3+ Combo4- Command2+ Command9+ Command10+";
-  const std::string frlg = " Command6- frlgl+ Combo3-x Combo4+ Command2+ Command9+ Command10+";
+  const std::string rs = " Command6+ frlgl- Combo3+ Combo4- Combo5- Command2+ Command9+ Command10+";
+  const std::string frlg = " Command6- frlgl+ Combo3-x Combo4+ Combo5- Command2+ Command9+ Command10+";
+  const std::string e = " Command6+ frlgl- Combo3-x Combo4- Combo5+ Command2+ Command9+ Command10+";
   const std::pair<GameIdentity, std::string> opens[] = {
       {{"AXVE", 0}, "AXVE Loaded rs &H1F716C &H38EE50 [&H38D880]" + rs},
       {{"AXPE", 0}, "AXPE Loaded rs &H1F70FC &H38EDE0 [&H38D810]" + rs},
@@ -55,8 +57,9 @@ TEST(OpenRomTest, AKnownGameSetsTheWindowUpForItsFamilyAndRevision) {
       {{"AXVE", 1}, "AXVE 1.1 Loaded rs &H1F7184 &H38EE68 [&H38D898]" + rs},
       {{"AXVE", 2}, "AXVE 1.2 Loaded rs &H1F7184 &H38EE68 [&H38D898]" + rs},
       {{"AXPE", 1}, "AXPE 1.1 Loaded rs &H1F7114 &H38EDF8 [&H38D828]" + rs},
-      {{"BPRE", 1}, "BPRE 1.1 Loaded frlg &H245F50 &H3B2844 [&H38D828]" + frlg},
-      {{"BPGE", 1}, "BPGE 1.1 Loaded frlg &H245F2C &H3B2824 [&H38D828]" + frlg},
+      {{"BPEE", 0}, "BPEE Loaded e &H3185C8  []" + e},
+      {{"BPRE", 1}, "BPRE 1.1 Loaded frlg &H245F50 &H3B2844 []" + frlg},
+      {{"BPGE", 1}, "BPGE 1.1 Loaded frlg &H245F2C &H3B2824 []" + frlg},
       {{"AXPE", 2}, "AXPE 1.2 Loaded rs &H1F7114 &H38EDF8 [&H38D828]" + rs},
       {{"AXVE", 0}, "AXVE Loaded rs &H1F716C &H38EE50 [&H38D880]" + rs},
   };
@@ -79,7 +82,7 @@ TEST(OpenRomTest, AKnownGameSetsTheWindowUpForItsFamilyAndRevision) {
 // that enables all but Command6.
 TEST(OpenRomTest, AnUnknownGameHidesTheMainWindowAndAsksForItsTables) {
   for (const GameIdentity& game : std::initializer_list<GameIdentity>{
-           {"axve", 0}, {"AXV", 0}, {"AXVEE", 0}, {"", 0}, {" AXVE", 0}, {"AXVE", 3}, {"BPRE", 2}, {"AXVE", -1}}) {
+           {"axve", 0}, {"AXV", 0}, {"AXVEE", 0}, {"", 0}, {" AXVE", 0}, {"AXVE", 3}, {"BPRE", 2}, {"BPEE", 1}, {"AXVE", -1}}) {
     EXPECT_EQ(FindGameProfile(game), nullptr) << '"' << game.code << "\" " << game.revision;  // the exact code only
   }
   EXPECT_FALSE(FindGameProfile({"BPEJ", 0})->Opens());  // known to the starter editor and Wingfall only
@@ -114,9 +117,9 @@ TEST(OpenRomTest, AnUnknownGameHidesTheMainWindowAndAsksForItsTables) {
     EXPECT_EQ(s.dialogs.MessageTexts(), row.messages);
     EXPECT_THAT(s.dialogs.windowEvents, ElementsAre(Window{WindowName::Form1, false}, Window{WindowName::Form9, true}));
     EXPECT_THAT(s.form.Combo1.rows, IsEmpty());
-    EXPECT_EQ(OpenState(s.form), row.code + rubyState + "x Combo4-x Command2+ Command9+x Command10+x");
+    EXPECT_EQ(OpenState(s.form), row.code + rubyState + "x Combo4-x Combo5-x Command2+ Command9+x Command10+x");
     s.Open(ruby.path());
-    EXPECT_EQ(OpenState(s.form), "AXVE" + rubyState + " Combo4- Command2+ Command9+ Command10+");
+    EXPECT_EQ(OpenState(s.form), "AXVE" + rubyState + " Combo4- Combo5- Command2+ Command9+ Command10+");
   }
 }
 
@@ -185,14 +188,17 @@ TEST(ScriptFormsTest, TheItemListIsReadFromTheRomThatIsOpenAndOnlyWhenItIsNeeded
   EXPECT_EQ(rows[346], "15A - Abcdefghijklm");
   EXPECT_EQ(s.session.form5.Label7.caption, "&H3C55BC");
 
-  s.Open(fireRed.path());
-  EXPECT_EQ(s.Item(1), "001 - Elixir");
-  EXPECT_EQ(s.session.form1.itemRecords, "&H3DB028");
-  FixtureRom fireRed11("BPRE", FixtureRom::kSize, 1);  // its items lie elsewhere
+  FixtureRom emeraldUs("BPEE"), fireRed11("BPRE", FixtureRom::kSize, 1);  // its items lie elsewhere
+  emeraldUs.PutName(0x5839A0 + 44, "Ether", 14);
   fireRed11.PutName(0x3DB098 + 44, "Ether", 14);
-  s.Open(fireRed11.path());
-  EXPECT_EQ(s.Item(1), "001 - Ether");
-  EXPECT_EQ(s.session.form5.Combo1.rows, s.session.form1.Combo1.rows);
+  const std::tuple<FixtureRom*, const char*, const char*> games[] = {
+      {&fireRed, "&H3DB028", "001 - Elixir"}, {&emeraldUs, "&H5839A0", "001 - Ether"}, {&fireRed11, "&H3DB098", "001 - Ether"}};
+  for (const auto& [rom, records, name] : games) {
+    s.Open(rom->path());
+    EXPECT_EQ(s.Item(1), name);
+    EXPECT_EQ(s.session.form1.itemRecords, records);
+    EXPECT_EQ(s.session.form5.Combo1.rows, s.session.form1.Combo1.rows);
+  }
 
   s.Open("");  // cancelled: no ROM open, no list
   EXPECT_THAT(RequireForm5Loaded(s.session), IsEmpty());
@@ -234,12 +240,16 @@ TEST(NameEditorMenuTest, TheTwoAnswersWriteTheEncodedNameAndNothingElse) {
       {"AXVE", MenuEntry::mnuedipmon, "&H19", std::nullopt, {}, "", "019 - "},
       {"BPEJ", MenuEntry::mnuedipmon, "&H19", "PIKA", {{0x245FF3, 11}}, "CA C3 C5 BB 00 00 00 00 00 00 00",
        "019 - PIKA      ", "", {"&H245EE0", "&H000000"}},
+      {"BPEE", MenuEntry::mnuedipmon, "&H19", "PIKA", {{0x3186DB, 11}}, "CA C3 C5 BB 00 00 00 00 00 00 00",
+       "019 - PIKA      "},
       {"AXPE", MenuEntry::mnuediten, "&H2", "Abcdefghijklmn", {{0x3C5614, 14}},
        "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
       {"BPGE", MenuEntry::mnuediten, "2", "Abcdefghijklmno", {{0x3DAEBC, 14}},
        "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
       {"BPRE", MenuEntry::mnuediten, "&H2", "ééééééééééééééé", {{0x3DB080, 14}},  // cut in characters, not in bytes
        "1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B"},
+      {"BPEE", MenuEntry::mnuediten, "&H2", "Abcdefghijklmn", {{0x5839F8, 14}},
+       "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
       {"BPEJ", MenuEntry::mnuediten, "&H2", "A", {}, "", "", "Item Names: \"&H24SEE0\" is not",
        {"&H245EE0", "&H24SEE0"}},
   };

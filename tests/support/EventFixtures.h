@@ -19,9 +19,9 @@ const std::vector<GameIdentity>& AllGames();
 // that the tests compare the system's tables against an independent copy.
 struct GameOffsets {
   GameIdentity game;
-  bool rs;
+  std::string_view family;
   std::uint32_t speciesNames;
-  std::uint32_t label1, raytxt, grou, regi1, regi2, regi3;
+  std::uint32_t label1, raytxt, grou, regi1, regi2, regi3;  // 0 in Emerald: its events are in FixtureEvents
   std::uint32_t latiScript, groudonScript;
   std::uint32_t items;
   std::array<std::uint32_t, 3> starters;
@@ -57,8 +57,8 @@ struct FixtureEvent {
 };
 
 // The events of a game's list, entry 0 included, laid out by the fixtures: person records
-// at the game's offsets, each pointing at a script in free space that holds two distinct
-// species numbers at the words' distances.
+// at the game's offsets, each pointing at a script that holds two distinct species numbers at
+// the words' distances: in free space, or in Emerald at the script's own offset in the game.
 std::vector<FixtureEvent> FixtureEvents(const GameIdentity& game);
 
 // A fixture ROM of the game and revision (its code and revision byte in the header) with

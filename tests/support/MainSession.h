@@ -30,6 +30,7 @@ struct MainSession {
   // Picks an event in the list that the open ROM's family shows.
   void PickEvent(int index) {
     if (form.cowmoo == "rs") return SetCombo3Selection(form, rom, dialogs, index);
+    if (form.cowmoo == "e") return SetCombo5Selection(form, rom, dialogs, index);
     SetCombo4Selection(form, rom, dialogs, index);
   }
   // The Save button.

@@ -1,4 +1,4 @@
-// The main window on FireRed and Sapphire, a listing, the Tools menu, the About box and
+// The main window on FireRed, English Emerald and Sapphire, a listing, the Tools menu, the About box and
 // the Unsupported ROM dialog.
 #include <QApplication>
 #include <QComboBox>
@@ -42,7 +42,8 @@ bool ShootMainWindow(const QDir& dir) {
   // setvar and end.
   sapphire.PutBytes(0xA00200, {0x6A, 0x5A, 0x2B, 0x34, 0x08, 0x0F, 0x00, 0x50, 0x20, 0x08, 0x09, 0x02, 0xB6, 0x96,
                                0x01, 0x46, 0x00, 0x00, 0x30, 0xA1, 0x96, 0x01, 0x16, 0x0D, 0x80, 0x01, 0x00, 0x02});
-  test::FixtureRom emerald = test::FixtureRom::Emerald();
+  test::FixtureRom emeraldUs = test::EventFixtureRom("BPEE");
+  test::FixtureRom emerald = test::FixtureRom::Emerald();  // Japanese: a game that Open ROM does not take
 
   {
     test::ScriptedDialogs dialogs;
@@ -53,6 +54,9 @@ bool ShootMainWindow(const QDir& dir) {
 
     OpenAndPick(shell, dialogs, fireRed, "Combo4", 4);  // Mewtwo
     ok &= Save(&window, dir, "main-window-firered.png");
+
+    OpenAndPick(shell, dialogs, emeraldUs, "Combo5", 2);  // Kyogre
+    ok &= Save(&window, dir, "main-window-emerald.png");
 
     OpenAndPick(shell, dialogs, sapphire, "Combo3", 2);  // Latias/Latios
     auto* listOffset = window.findChild<QLineEdit*>("Text3");
