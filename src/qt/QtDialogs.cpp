@@ -45,8 +45,9 @@ MessageAnswer QtDialogs::Message(std::string_view text, MessageButtons buttons, 
   box.setWindowTitle(Q(title));
   box.setText(Q(text));
   if (buttons == MessageButtons::YesNo) {
+    // A question before a write: Enter pressed by habit answers No, and nothing is written.
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.setDefaultButton(QMessageBox::Yes);
+    box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
   }
   box.setStandardButtons(QMessageBox::Ok);

@@ -171,6 +171,14 @@ TEST(QtDialogsTest, AnInputBoxShowsTheAmpersandOfItsPrompt) {
   EXPECT_EQ(shown.toStdString(), kPokemonEntryPrompt);
 }
 
+// A question before a write answers No to Enter, so that Enter pressed by habit writes nothing.
+TEST(QtDialogsTest, EnterInAYesNoQuestionAnswersNo) {
+  QTimer::singleShot(0, [] {
+    if (QWidget* box = QApplication::activeModalWidget()) QTest::keyClick(box, Qt::Key_Return);
+  });
+  EXPECT_EQ(QtDialogs().Message("Insert?", MessageButtons::YesNo, kDefaultTitle), MessageAnswer::No);
+}
+
 TEST_F(ToolWindowsTest, Form6InsertsLoadsAndPreviewsABrailleRecord) {
   test::FixtureRom fixture = test::FixtureRom::Sapphire();
   fixture.PutBytes(kS, Bytes(16, 0x11)).PutBytes(kS + 0x100, Bytes(16, 0x11));
