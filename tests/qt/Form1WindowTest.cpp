@@ -131,6 +131,7 @@ TEST_F(Form1WindowTest, TheCaptionOfOpenDoesNothingAndTheAboutBoxIsOneModelessWi
   QWidget* about = shell.Window(WindowName::frmAbout);
   ASSERT_NE(about, nullptr);
   EXPECT_EQ(about->findChild<QLabel*>("lblVersion")->text(), "Version 0.5.112");
+  EXPECT_EQ(about->findChild<QLabel*>("lblCommit")->text().toStdString(), shell.session().about.lblCommit.caption);
   EXPECT_FALSE(about->isModal());
   QTest::mouseClick(Find<ImageButton>("Image5"), Qt::LeftButton);
   EXPECT_EQ(shell.Window(WindowName::frmAbout), about);

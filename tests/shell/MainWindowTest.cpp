@@ -11,6 +11,7 @@
 #include "shell/ScriptForms.h"
 #include "shell/Session.h"
 #include "shell/ToolsMenu.h"
+#include "shell/frmAbout.h"
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
 #include "support/MainSession.h"
@@ -106,6 +107,16 @@ TEST(OpenRomTest, TheUnsupportedRomDialogsQuitBringsTheMainWindowBack) {
   test::ScriptedDialogs dialogs;
   PressQuit(form, dialogs);
   EXPECT_THAT(dialogs.windowEvents, ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
+}
+
+// The version is the project's in CMake; the commit is git's name of what was built.
+TEST(AboutTest, TheBoxShowsTheProjectVersionAndTheCommitOfTheBuild) {
+  frmAbout about;
+  LoadAbout(about);
+  EXPECT_EQ(about.title + " / " + about.lblVersion.caption, "About Tessarine / Version " TESSARINE_PROJECT_VERSION);
+  const std::string commit = about.lblCommit.caption.substr(std::string("Commit ").size());
+  const std::size_t hex = commit.find_first_not_of("0123456789abcdef");
+  EXPECT_TRUE(commit == "unknown" || (hex == std::string::npos ? commit.size() : hex) == 12) << commit;
 }
 
 TEST(ToolsMenuTest, EachEntryOpensItsWindowOnceItsGuardLetsIt) {
