@@ -4,6 +4,8 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCursor>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QFontDatabase>
 #include <QFrame>
 #include <QGridLayout>
@@ -12,11 +14,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStackedLayout>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -107,6 +111,10 @@ Form1Window::Form1Window(QtShell& shell) : shell_(shell) {
   BuildWidgets();
   Connect();
   Refresh();
+  // A file dropped anywhere on the window is the window's, also over a field: the fields take
+  // no drops of their own.
+  for (QWidget* child : findChildren<QWidget*>()) child->setAcceptDrops(false);
+  setAcceptDrops(true);
 }
 
 Form1Window::~Form1Window() = default;
@@ -398,6 +406,31 @@ bool Form1Window::eventFilter(QObject* watched, QEvent* event) {
     if (eventList && (key == Qt::Key_Return || key == Qt::Key_Enter)) return true;
   }
   return QWidget::eventFilter(watched, event);
+}
+
+// Every drop is taken, so that what cannot be opened is refused with a sentence.
+void Form1Window::dragEnterEvent(QDragEnterEvent* event) { event->acceptProposedAction(); }
+
+void Form1Window::dropEvent(QDropEvent* event) {
+  Dropped dropped;
+  const QMimeData* data = event->mimeData();
+  for (const QUrl& url : data->urls()) {
+    if (url.isLocalFile()) {
+      dropped.paths.push_back(url.toLocalFile().toStdString());
+    } else {
+      dropped.others.push_back(url.toString().toStdString());
+    }
+  }
+  if (!data->hasUrls() && data->hasText()) dropped.others.push_back(data->text().toStdString());
+  event->acceptProposedAction();
+  // The program that the drop came from waits until the drop ends: the open, and whatever
+  // it asks, runs after that.
+  QMetaObject::invokeMethod(
+      this,
+      [this, dropped] {
+        shell_.Run([this, &dropped] { OpenDropped(shell_.form1(), shell_.rom(), shell_.dialogs(), dropped); });
+      },
+      Qt::QueuedConnection);
 }
 
 void Form1Window::closeEvent(QCloseEvent* event) {

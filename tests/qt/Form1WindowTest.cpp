@@ -5,12 +5,17 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDropEvent>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QThread>
 #include <QTimer>
+#include <QUrl>
 
 #include "qt/LinedTextBoxWidget.h"
 #include "qt/QtListingProgress.h"
@@ -138,6 +143,29 @@ TEST_F(Form1WindowTest, TheCaptionOfOpenDoesNothingAndTheAboutBoxIsOneModelessWi
   QTest::mouseClick(about->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
   QTest::qWait(0);
   EXPECT_EQ(shell.Window(WindowName::frmAbout), nullptr);
+}
+
+// A file dropped on the window, also over a field: a .gba opens as Open does, a text file is
+// refused with a sentence that names it.
+TEST_F(Form1WindowTest, AGbaFileDroppedOnTheWindowOpensAndATextFileIsRefused) {
+  test::FixtureRom fixture = test::EventFixtureRom("AXPE");
+  QTemporaryDir folder;
+  const QString notes = folder.filePath("notes.txt");
+  QFile(notes).open(QIODevice::WriteOnly);
+  for (const QString& path : {notes, QString::fromStdString(fixture.path())}) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path)});
+    data.setText(path);  // as file managers give it too, which a field would take
+    QDragEnterEvent enter(QPoint(4, 4), Qt::CopyAction, &data, Qt::LeftButton, {});  // over a field
+    QCoreApplication::sendEvent(Find("spritetxt"), &enter);
+    QDropEvent drop(QPointF(4, 4), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(Find("spritetxt"), &drop);
+    QTest::qWait(0);
+  }
+  EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("\"" + notes.toStdString() + "\" is not a .gba file. Drop one .gba "
+                                                  "file on the window to open it; nothing was opened."));
+  EXPECT_EQ(Find<QComboBox>("Combo1")->count(), 412);
+  EXPECT_EQ(Find<QLabel>("hdtxt")->text(), "AXPE");
 }
 
 TEST_F(Form1WindowTest, AnUnknownGameShowsTheUnsupportedRomDialogInsteadOfTheMainWindow) {
