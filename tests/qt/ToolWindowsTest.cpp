@@ -5,7 +5,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QFrame>
 #include <QImage>
 #include <QInputDialog>
@@ -15,6 +17,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -177,6 +180,31 @@ TEST(QtDialogsTest, EnterInAYesNoQuestionAnswersNo) {
     if (QWidget* box = QApplication::activeModalWidget()) QTest::keyClick(box, Qt::Key_Return);
   });
   EXPECT_EQ(QtDialogs().Message("Insert?", MessageButtons::YesNo, kDefaultTitle), MessageAnswer::No);
+}
+
+// The ROM dialog starts in the folder of the last ROM chosen, in this run: Qt's own record of
+// the dialog's folders is left nowhere.
+TEST(QtDialogsTest, TheFileDialogRemembersItsFolderForTheRunOnly) {
+  QTemporaryDir roms;
+  const QString rom = roms.filePath("a.gba");
+  QFile(rom).open(QIODevice::WriteOnly);
+  QStringList startedIn;
+  {
+    QtDialogs dialogs;
+    for (int i = 0; i < 2; ++i) {
+      QTimer::singleShot(0, [&] {
+        if (auto* box = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+          startedIn << box->directory().path();
+          box->findChild<QLineEdit*>("fileNameEdit")->setText(rom);
+          QMetaObject::invokeMethod(box, "accept");
+        }
+      });
+      EXPECT_EQ(dialogs.OpenFile("Open", "Pokemon Advance rom|*.gba"), rom.toStdString());
+    }
+  }
+  EXPECT_EQ(startedIn.value(1).toStdString(), roms.path().toStdString());
+  const QDir config(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+  EXPECT_EQ(config.entryList(QDir::Files).join(' ').toStdString(), "");
 }
 
 TEST_F(ToolWindowsTest, Form6InsertsLoadsAndPreviewsABrailleRecord) {
