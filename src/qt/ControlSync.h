@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QString>
 #include <QStringList>
 #include <string>
@@ -55,6 +56,20 @@ inline bool EnterPresses(QKeyEvent* event, QAbstractButton* defaultButton) {
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return false;
   defaultButton->click();
   return true;
+}
+
+// Esc in a tool window closes it and writes nothing: it presses `closer` (the window's own
+// button that closes it, such as Done) or, with none, closes the window as its title bar
+// does. The tooltip of `named` (the closer, else the window's main button) names the key.
+inline void CloseOnEscape(QWidget* window, QAbstractButton* named, QAbstractButton* closer = nullptr) {
+  auto* escape = new QShortcut(QKeySequence::Cancel, window);
+  if (closer != nullptr) {
+    QObject::connect(escape, &QShortcut::activated, closer, &QAbstractButton::click);
+  } else {
+    QObject::connect(escape, &QShortcut::activated, window, &QWidget::close);
+  }
+  named->setToolTip(closer != nullptr ? "Closes the window without writing (Esc)"
+                                      : "Esc closes the window without writing.");
 }
 
 // A drop-down list; remembers the rows it last gave its widget, so that a refresh fills

@@ -18,11 +18,13 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QStackedLayout>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <tuple>
 
 #include "events/EventSelection.h"
 #include "events/EventWords.h"
@@ -275,6 +277,13 @@ void Form1Window::Connect() {
     PopUpToolsMenu(at);
     Image4_->setDown(false);
   });
+  // Keys: Ctrl+O presses Open and Alt+T presses Tools, as a click does; their tooltips say so.
+  const std::tuple<ImageButton*, QKeySequence, const char*> keys[] = {
+      {Image3_, QKeySequence::Open, "Opens a ROM"}, {Image4_, QKeySequence(Qt::ALT | Qt::Key_T), "The menu of tools"}};
+  for (const auto& [button, key, tip] : keys) {
+    connect(new QShortcut(key, this), &QShortcut::activated, button, &QAbstractButton::click);
+    button->setToolTip(QString("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
+  }
   connect(Image5_, &QAbstractButton::clicked, this, [this] { shell_.Run([this] { shell_.ShowWindow(WindowName::frmAbout); }); });
 
   connect(Combo3_, &QComboBox::activated, this,

@@ -76,6 +76,7 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
   }
   connect(Command1_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { InsertGivePokemon(form_, shell_.rom(), shell_.dialogs()); }); });
+  CloseOnEscape(this, Command1_);
   Refresh();
 }
 

@@ -211,6 +211,8 @@ void Form6Window::Connect() {
     });
   });
 
+  CloseOnEscape(this, Command1_);
+
   // Enter: the offset of the record loads it, the script offset inserts (after the question),
   // and the layout fields apply.
   connect(Text2_, &QLineEdit::returnPressed, Command2_, &QPushButton::click);

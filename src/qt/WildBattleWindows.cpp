@@ -83,6 +83,7 @@ void WildBattleWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void WildBattleWindow::FinishLayout() {
+  CloseOnEscape(this, Command1_);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(Command1_);

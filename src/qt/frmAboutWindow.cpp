@@ -40,6 +40,7 @@ frmAboutWindow::frmAboutWindow(QtShell& shell, frmAbout& form)
   lblDescription_->setWordWrap(true);
   lblDescription_->setMinimumWidth(320);
   cmdOK_->setDefault(true);
+  cmdOK_->setToolTip("Closes the window (Esc)");  // as any dialog's Esc does
 
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(16, 16, 16, 16);

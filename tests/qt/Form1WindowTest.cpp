@@ -132,6 +132,19 @@ TEST_F(Form1WindowTest, TheCaptionOfOpenDoesNothingAndTheAboutBoxIsOneModelessWi
   QTest::keyClick(Find<ImageButton>("Image3"), Qt::Key_Return);  // the keyboard reaches Open
   QTest::qWait(300);                                              // animateClick's press
   EXPECT_EQ(dialogs.fileDialogs.size(), 1u);
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QTest::keyClick(&window, Qt::Key_O, Qt::ControlModifier);  // Ctrl+O is Open
+  EXPECT_EQ(dialogs.fileDialogs.size(), 2u);
+  QString popUp;
+  QTimer::singleShot(0, [&] {
+    if (QWidget* menu = QApplication::activePopupWidget()) {
+      popUp = menu->objectName();
+      menu->close();
+    }
+  });
+  QTest::keyClick(&window, Qt::Key_T, Qt::AltModifier);  // Alt+T opens the Tools menu
+  EXPECT_EQ(popUp, "mnuptro");
   QTest::mouseClick(Find<QLabel>("Label17"), Qt::LeftButton);  // About's caption opens it
   QWidget* about = shell.Window(WindowName::frmAbout);
   ASSERT_NE(about, nullptr);
@@ -140,7 +153,11 @@ TEST_F(Form1WindowTest, TheCaptionOfOpenDoesNothingAndTheAboutBoxIsOneModelessWi
   EXPECT_FALSE(about->isModal());
   QTest::mouseClick(Find<ImageButton>("Image5"), Qt::LeftButton);
   EXPECT_EQ(shell.Window(WindowName::frmAbout), about);
-  QTest::mouseClick(about->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+  QTest::keyClick(about, Qt::Key_Escape);  // closes it as OK does
+  QTest::qWait(0);
+  EXPECT_EQ(shell.Window(WindowName::frmAbout), nullptr);
+  QTest::mouseClick(Find<ImageButton>("Image5"), Qt::LeftButton);
+  QTest::mouseClick(shell.Window(WindowName::frmAbout)->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
   QTest::qWait(0);
   EXPECT_EQ(shell.Window(WindowName::frmAbout), nullptr);
 }

@@ -138,6 +138,43 @@ TEST_F(ToolWindowsTest, EachBuilderWritesTheBattlePickedInItsListsAndCloses) {
   }
 }
 
+// Each tool opens with its first field in focus, Tab walks its fields as they are read, and Esc
+// closes it: none of these keys writes.
+TEST_F(ToolWindowsTest, EachToolTakesTheKeyboardAtItsFirstFieldAndEscClosesItWritingNothing) {
+  const char* const battle[] = {"Combo1", "pkmntxt", "crytxt", "Combo3", "Combo2", "Text3"};
+  const struct {
+    MenuEntry entry;
+    WindowName name;
+    std::vector<std::string> tabs;  // from the first field on
+  } rows[] = {
+      {MenuEntry::mnuwbs, WindowName::Form3, {std::begin(battle), std::end(battle)}},
+      {MenuEntry::mnuwbs, WindowName::Form4, {std::begin(battle), std::end(battle)}},
+      {MenuEntry::mnugps, WindowName::Form5, {"Combo1", "pkmntxt", "Combo3", "Combo2", "Text3", "Text12", "Command1"}},
+      {MenuEntry::mnuib, WindowName::Form6, {"Text1", "Text2", "Text3", "postionleft", "postiontop", "msgboxleft",
+                                             "msgboxtop", "brailleleft", "brailletop", "Command1", "Command2"}},
+      {MenuEntry::mnustart, WindowName::Form2, {"Combo1", "Combo2", "Combo3", "Command1", "Command3", "Command2"}},
+      {MenuEntry::mnuflin, WindowName::Form8, {"hoenn", "loadbutton", "savebutton", "XXt", "YYt", "Command2"}},
+  };
+  for (const auto& row : rows) {
+    test::FixtureRom fixture = BuilderRom();
+    dialogs.messageAnswers = {row.name == WindowName::Form4 ? MessageAnswer::Yes : MessageAnswer::No};
+    ASSERT_TRUE(Open(fixture, row.entry, row.name));
+    const ByteOracle oracle(fixture.path());
+    std::vector<std::string> walked;
+    for (std::size_t i = 0; i < row.tabs.size(); ++i) {
+      walked.push_back(window->focusWidget()->objectName().toStdString());
+      QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(walked, row.tabs);
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    QTest::keyClick(window->focusWidget(), Qt::Key_Escape);
+    QTest::qWait(0);
+    EXPECT_EQ(shell.Window(row.name), nullptr);
+    EXPECT_THAT(oracle.Changes(), IsEmpty());
+  }
+}
+
 TEST_F(ToolWindowsTest, Form2SavesWhatIsPickedAndDoneClosesWithoutWriting) {
   test::FixtureRom fixture = test::EventFixtureRom("AXVE");
   fixture.PutWord(0x3F76C4, 0x115).PutWord(0x3F76C6, 0x118).PutWord(0x3F76C8, 0x11B);
