@@ -185,11 +185,9 @@ void Form1Window::BuildWidgets() {
   Text4_->setMinimumHeight(220);
   Text4_->EnableLineNumbers(true, 4);
 
-  for (QLineEdit* number : {spritetxt_, flagtxt_, Text1_, hoobla_, Text2_, hoobla2_}) {
-    number->setMaximumWidth(90);
-  }
-  scriptpointxt_->setMaximumWidth(110);
-  Text3_->setMaximumWidth(110);
+  for (QLineEdit* word : {spritetxt_, flagtxt_, Text1_, hoobla_, Text2_, hoobla2_}) FitNumber(word, NumberText::Word);
+  FitNumber(scriptpointxt_, NumberText::Offset);
+  FitNumber(Text3_, NumberText::Offset);
   for (QLabel* label : {Label6_, Label8_, Label9_, Label7_, Label13_, Label12_}) {
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   }
