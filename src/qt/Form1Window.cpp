@@ -428,7 +428,7 @@ void Form1Window::dropEvent(QDropEvent* event) {
       dropped.others.push_back(url.toString().toStdString());
     }
   }
-  if (!data->hasUrls() && data->hasText()) dropped.others.push_back(data->text().toStdString());
+  if (data->urls().isEmpty() && !data->text().isEmpty()) dropped.others.push_back(data->text().toStdString());
   event->acceptProposedAction();
   // The program that the drop came from waits until the drop ends: the open, and whatever
   // it asks, runs after that.

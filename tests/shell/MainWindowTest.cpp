@@ -1,19 +1,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <tuple>
 
 #include "editors/Form9.h"
 #include "editors/NameEditors.h"
 #include "rom/GameProfile.h"
-#include "rom/FilePath.h"
 #include "rom/HexField.h"
 #include "shell/OpenRom.h"
 #include "shell/ScriptForms.h"
 #include "shell/Session.h"
 #include "shell/ToolsMenu.h"
-#include "shell/frmAbout.h"
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
 #include "support/MainSession.h"
@@ -103,55 +100,12 @@ TEST(OpenRomTest, AnUnknownGameHidesTheMainWindowAndAsksForItsTables) {
   }
 }
 
-// A drop on the main window: one .gba file opens as Open does, anything else is refused by a
-// sentence that names it, and the ROM that was open stays open.
-TEST(OpenRomTest, ADroppedGbaFileOpensAndAnythingElseIsRefusedByName) {
-  FixtureRom ruby = EventFixtureRom("AXVE"), sapphire = EventFixtureRom("AXPE");
-  const std::filesystem::path folderPath = test::TemporaryPath("roms.gba");
-  std::filesystem::create_directory(folderPath);
-  const std::string folder = ToPathText(folderPath);
-  const struct {
-    Dropped dropped;
-    std::string refusal;  // "" where it opens
-  } rows[] = {
-      {{{"notes.txt"}, {}}, "\"notes.txt\" is not a .gba file."},
-      {{{folder}, {}}, "\"" + folder + "\" is a folder."},
-      {{{"a.gba", "b.gba"}, {}}, "2 things were dropped: \"a.gba\" and \"b.gba\"."},
-      {{{"a", "b"}, {"c", "d"}}, "4 things were dropped: \"a\", \"b\", \"c\" and 1 more."},
-      {{{}, {"https://example.org/rom.gba"}}, "\"https://example.org/rom.gba\" is not a file on this computer."},
-      {{{}, {"Rayquaza\nat the top of Sky Pillar"}}, "\"Rayquaza...\" is not a file on this computer."},
-      {{}, "What was dropped is no file."},
-      {{{sapphire.path()}, {}}, ""},
-  };
-  for (const auto& row : rows) {
-    test::MainSession s;
-    s.Open(ruby.path());
-    const std::string failure = test::FailureOf([&] { OpenDropped(s.form, s.rom, s.dialogs, row.dropped); });
-    const std::string told = " Drop one .gba file on the window to open it; nothing was opened.";
-    EXPECT_EQ(failure, row.refusal.empty() ? "" : row.refusal + told);
-    EXPECT_EQ(s.form.headtxt + (s.rom.IsOpen() ? " open" : ""), row.refusal.empty() ? "AXPE open" : "AXVE open");
-    EXPECT_EQ(s.form.Combo1.rows.size(), 412u);
-    s.rom.Close();
-  }
-  std::filesystem::remove(folderPath);
-}
-
 // Quit, like Continue, brings the main window back (what Continue keeps, the name editors use).
 TEST(OpenRomTest, TheUnsupportedRomDialogsQuitBringsTheMainWindowBack) {
   Form9 form;
   test::ScriptedDialogs dialogs;
   PressQuit(form, dialogs);
   EXPECT_THAT(dialogs.windowEvents, ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
-}
-
-// The version is the project's in CMake; the commit is git's name of what was built.
-TEST(AboutTest, TheBoxShowsTheProjectVersionAndTheCommitOfTheBuild) {
-  frmAbout about;
-  LoadAbout(about);
-  EXPECT_EQ(about.title + " / " + about.lblVersion.caption, "About Tessarine / Version " TESSARINE_PROJECT_VERSION);
-  const std::string commit = about.lblCommit.caption.substr(std::string("Commit ").size());
-  const std::size_t hex = commit.find_first_not_of("0123456789abcdef");
-  EXPECT_TRUE(commit == "unknown" || (hex == std::string::npos ? commit.size() : hex) == 12) << commit;
 }
 
 TEST(ToolsMenuTest, EachEntryOpensItsWindowOnceItsGuardLetsIt) {
