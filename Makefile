@@ -5,7 +5,7 @@
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 CMAKE_CONFIGURE = cmake -S . -G Ninja -Wno-dev
 
-.PHONY: run test test-windows bench fuzz screenshots deps clean
+.PHONY: run test test-windows package test-package bench fuzz screenshots deps clean
 
 deps:
 	@scripts/install-deps
@@ -21,6 +21,26 @@ test: deps
 	@$(CMAKE_CONFIGURE) -B build/test -DCMAKE_BUILD_TYPE=Debug -DTESSARINE_SANITIZE=ON -DTESSARINE_WERROR=ON >/dev/null
 	@cmake --build build/test
 	cd build/test && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+
+# The Debian package in build/package (tessarine_<version>_<arch>.deb), made by CPack from
+# what cmake --install puts under /usr: built with Debian's hardening flags and stripped, its
+# dependencies found by dpkg-shlibdeps, its changelog dated by the commit.
+PACKAGE_BUILD = build/package
+export DEB_BUILD_MAINT_OPTIONS = hardening=+all
+
+package: deps
+	@SOURCE_DATE_EPOCH=$$(git log -1 --format=%ct 2>/dev/null || date +%s) \
+	  $(CMAKE_CONFIGURE) -B $(PACKAGE_BUILD) -DCMAKE_BUILD_TYPE=Release -DTESSARINE_TESTS=OFF \
+	  -DCMAKE_CXX_FLAGS="$$(dpkg-buildflags --get CPPFLAGS) $$(dpkg-buildflags --get CXXFLAGS)" \
+	  -DCMAKE_EXE_LINKER_FLAGS="$$(dpkg-buildflags --get LDFLAGS)" >/dev/null
+	@cmake --build $(PACKAGE_BUILD)
+	@rm -f $(PACKAGE_BUILD)/tessarine_*.deb
+	cd $(PACKAGE_BUILD) && cpack -G DEB
+
+# The package checked as a person who installs it meets it: lintian, its menu entry, its
+# dependencies, and the program unpacked from it started headless up to its main window.
+test-package: package
+	scripts/test-package $(PACKAGE_BUILD)
 
 # The core and its tests built for Windows x86-64 with MinGW-w64 and GoogleTest from its
 # sources, and run under wine64: headless, in a wine prefix of the build's own, which the

@@ -8,6 +8,7 @@
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
   QApplication::setApplicationName("Tessarine");
+  QApplication::setDesktopFileName("tessarine");  // the installed menu entry, for the desktop's dock
   QApplication::setWindowIcon(tessarine::ApplicationIcon());
   // The main window may be hidden while the Unsupported ROM dialog stands alone; the
   // program ends when the main window closes, not when the last window does.

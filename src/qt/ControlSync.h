@@ -7,8 +7,12 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
+#include <QStyle>
+#include <QStyleOptionFrame>
 #include <QString>
 #include <QStringList>
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -55,6 +59,43 @@ inline bool EnterPresses(QKeyEvent* event, QAbstractButton* defaultButton) {
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return false;
   defaultButton->click();
   return true;
+}
+
+// The longest text of a number field: "&H" and as many hexadecimal digits as a ROM offset
+// ("&HFFFFFFFF"), a word ("&HFFFF") or a byte ("&HFF") has.
+enum class NumberText { Offset = 8, Word = 4, Byte = 2 };
+
+// Makes `field` exactly wide enough to show the longest text of its kind whole, in its own
+// font: "&H" and that many of the font's widest hexadecimal digit, the room a line edit keeps
+// around its text, and its cursor.
+inline void FitNumber(QLineEdit* field, NumberText kind) {
+  field->ensurePolished();
+  const QFontMetrics metrics = field->fontMetrics();
+  int digit = 0;
+  for (const QChar c : QStringLiteral("0123456789ABCDEF")) digit = std::max(digit, metrics.horizontalAdvance(c));
+  constexpr int kAround = 2 * 2 + 2;  // QLineEdit's margin on each side, the cursor
+  const QMargins margins = field->textMargins();
+  const int text = metrics.horizontalAdvance(QStringLiteral("&H")) + static_cast<int>(kind) * digit + kAround +
+                   margins.left() + margins.right();
+  QStyleOptionFrame option;
+  option.initFrom(field);
+  option.lineWidth = field->hasFrame() ? field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, field) : 0;
+  field->setFixedWidth(
+      field->style()->sizeFromContents(QStyle::CT_LineEdit, &option, QSize(text, metrics.height()), field).width());
+}
+
+// Esc in a tool window closes it and writes nothing: it presses `closer` (the window's own
+// button that closes it, such as Done) or, with none, closes the window as its title bar
+// does. The tooltip of `named` (the closer, else the window's main button) names the key.
+inline void CloseOnEscape(QWidget* window, QAbstractButton* named, QAbstractButton* closer = nullptr) {
+  auto* escape = new QShortcut(QKeySequence::Cancel, window);
+  if (closer != nullptr) {
+    QObject::connect(escape, &QShortcut::activated, closer, &QAbstractButton::click);
+  } else {
+    QObject::connect(escape, &QShortcut::activated, window, &QWidget::close);
+  }
+  named->setToolTip(closer != nullptr ? "Closes the window without writing (Esc)"
+                                      : "Esc closes the window without writing.");
 }
 
 // A drop-down list; remembers the rows it last gave its widget, so that a refresh fills

@@ -4,6 +4,8 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCursor>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QFontDatabase>
 #include <QFrame>
 #include <QGridLayout>
@@ -12,13 +14,17 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QStackedLayout>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <tuple>
 
 #include "events/EventSelection.h"
 #include "events/EventWords.h"
@@ -107,6 +113,10 @@ Form1Window::Form1Window(QtShell& shell) : shell_(shell) {
   BuildWidgets();
   Connect();
   Refresh();
+  // A file dropped anywhere on the window is the window's, also over a field: the fields take
+  // no drops of their own.
+  for (QWidget* child : findChildren<QWidget*>()) child->setAcceptDrops(false);
+  setAcceptDrops(true);
 }
 
 Form1Window::~Form1Window() = default;
@@ -177,11 +187,9 @@ void Form1Window::BuildWidgets() {
   Text4_->setMinimumHeight(220);
   Text4_->EnableLineNumbers(true, 4);
 
-  for (QLineEdit* number : {spritetxt_, flagtxt_, Text1_, hoobla_, Text2_, hoobla2_}) {
-    number->setMaximumWidth(90);
-  }
-  scriptpointxt_->setMaximumWidth(110);
-  Text3_->setMaximumWidth(110);
+  for (QLineEdit* word : {spritetxt_, flagtxt_, Text1_, hoobla_, Text2_, hoobla2_}) FitNumber(word, NumberText::Word);
+  FitNumber(scriptpointxt_, NumberText::Offset);
+  FitNumber(Text3_, NumberText::Offset);
   for (QLabel* label : {Label6_, Label8_, Label9_, Label7_, Label13_, Label12_}) {
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   }
@@ -270,6 +278,13 @@ void Form1Window::Connect() {
     PopUpToolsMenu(at);
     Image4_->setDown(false);
   });
+  // Keys: Ctrl+O presses Open and Alt+T presses Tools, as a click does; their tooltips say so.
+  const std::tuple<ImageButton*, QKeySequence, const char*> keys[] = {
+      {Image3_, QKeySequence::Open, "Opens a ROM"}, {Image4_, QKeySequence(Qt::ALT | Qt::Key_T), "The menu of tools"}};
+  for (const auto& [button, key, tip] : keys) {
+    connect(new QShortcut(key, this), &QShortcut::activated, button, &QAbstractButton::click);
+    button->setToolTip(QString("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
+  }
   connect(Image5_, &QAbstractButton::clicked, this, [this] { shell_.Run([this] { shell_.ShowWindow(WindowName::frmAbout); }); });
 
   connect(Combo3_, &QComboBox::activated, this,
@@ -407,6 +422,31 @@ bool Form1Window::eventFilter(QObject* watched, QEvent* event) {
     if (eventList && (key == Qt::Key_Return || key == Qt::Key_Enter)) return true;
   }
   return QWidget::eventFilter(watched, event);
+}
+
+// Every drop is taken, so that what cannot be opened is refused with a sentence.
+void Form1Window::dragEnterEvent(QDragEnterEvent* event) { event->acceptProposedAction(); }
+
+void Form1Window::dropEvent(QDropEvent* event) {
+  Dropped dropped;
+  const QMimeData* data = event->mimeData();
+  for (const QUrl& url : data->urls()) {
+    if (url.isLocalFile()) {
+      dropped.paths.push_back(url.toLocalFile().toStdString());
+    } else {
+      dropped.others.push_back(url.toString().toStdString());
+    }
+  }
+  if (data->urls().isEmpty() && !data->text().isEmpty()) dropped.others.push_back(data->text().toStdString());
+  event->acceptProposedAction();
+  // The program that the drop came from waits until the drop ends: the open, and whatever
+  // it asks, runs after that.
+  QMetaObject::invokeMethod(
+      this,
+      [this, dropped] {
+        shell_.Run([this, &dropped] { OpenDropped(shell_.form1(), shell_.rom(), shell_.dialogs(), dropped); });
+      },
+      Qt::QueuedConnection);
 }
 
 void Form1Window::closeEvent(QCloseEvent* event) {

@@ -3,7 +3,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSignalBlocker>
 
 #include "editors/Form2.h"
@@ -64,7 +63,7 @@ Form2Window::Form2Window(QtShell& shell, Form2& form)
     shell_.Run([this] { LoadForm2(form_, shell_.form1(), shell_.rom(), shell_.dialogs()); });
   });
   connect(Command2_, &QPushButton::clicked, this, [this] { shell_.Run([this] { PressDone(shell_.dialogs()); }); });
-  connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, Command2_, &QPushButton::click);
+  CloseOnEscape(this, Command2_, Command2_);
   Refresh();
 }
 

@@ -37,9 +37,10 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
   Image1_->setPixmap(EmblemPicture(72));
   Combo1_->setMinimumContentsLength(18);
   for (QComboBox* list : {Combo1_, Combo2_, Combo3_}) list->setMaxVisibleItems(20);
-  for (QWidget* number : std::initializer_list<QWidget*>{pkmntxt_, Combo3_, Text3_, Text12_}) {
-    number->setFixedWidth(100);
-  }
+  FitNumber(pkmntxt_, NumberText::Word);
+  FitNumber(Text3_, NumberText::Offset);
+  FitNumber(Text12_, NumberText::Offset);
+  Combo3_->setFixedWidth(Text3_->minimumWidth());  // the level list as wide as the offsets below it
   Command1_->setDefault(true);
 
   auto* grid = new QGridLayout(this);
@@ -76,6 +77,7 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
   }
   connect(Command1_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { InsertGivePokemon(form_, shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+  CloseOnEscape(this, Command1_);
   Refresh();
 }
 

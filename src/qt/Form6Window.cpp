@@ -96,9 +96,9 @@ void Form6Window::BuildWidgets() {
   Command3_ = Named(new QPushButton(this), "Command3");
   Command4_ = Named(new QPushButton(this), "Command4");
   Command5_ = Named(new QPushButton(this), "Command5");
-  for (QLineEdit* field : {Text2_, Text3_}) field->setFixedWidth(96);
+  for (QLineEdit* field : {Text2_, Text3_}) FitNumber(field, NumberText::Offset);
   for (QLineEdit* field : {postionleft_, postiontop_, msgboxleft_, msgboxtop_, brailleleft_, brailletop_}) {
-    field->setFixedWidth(56);
+    FitNumber(field, NumberText::Byte);
   }
   for (QLabel* label : {Label8_, Label11_, Label2_, Label3_, Label4_, Label5_, Label6_, Label7_}) {
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -212,6 +212,8 @@ void Form6Window::Connect() {
       });
     });
   });
+
+  CloseOnEscape(this, Command1_);
 
   // Enter: the offset of the record loads it, the script offset inserts (after the question),
   // and the layout fields apply.

@@ -149,7 +149,8 @@ void Form8Window::BuildWidgets() {
   Label7_->setBuddy(Text2_);
   Label2_ = Named(new QLabel(this), "Label2");
   Label2_->setWordWrap(true);
-  for (QLineEdit* number : {XXt_, YYt_, Text1_, Text2_}) number->setMaximumWidth(70);
+  for (QLineEdit* tile : {XXt_, YYt_}) FitNumber(tile, NumberText::Byte);
+  for (QLineEdit* size : {Text1_, Text2_}) FitNumber(size, NumberText::Word);  // a map size in tiles
 
   auto* record = new QGridLayout;
   record->addWidget(Label1_, 0, 0);
@@ -242,6 +243,7 @@ void Form8Window::Connect() {
   connect(Command2_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { LoadMapImageFile(form_, shell_.dialogs(), pictures_); }); });
   connect(Command1_, &QPushButton::clicked, this, [this] { shell_.Run([this] { PasteMapImage(form_, pictures_); }); });
+  CloseOnEscape(this, savebutton_);
 }
 
 void Form8Window::Refresh() {

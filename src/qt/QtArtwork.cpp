@@ -26,6 +26,11 @@ QPixmap EmblemPicture(int size) {
   QPixmap picture(size, size);
   picture.fill(Qt::transparent);
   QPainter p(&picture);
+  DrawEmblem(p, size);
+  return picture;
+}
+
+void DrawEmblem(QPainter& p, double size) {
   p.setRenderHint(QPainter::Antialiasing);
   const QPointF centre(size / 2.0, size / 2.0);
   const double outer = size * 0.46;
@@ -49,7 +54,6 @@ QPixmap EmblemPicture(int size) {
   QPolygonF hexagon;
   for (int corner = 0; corner < 6; ++corner) hexagon << HexCorner(centre, outer, corner);
   p.drawPolygon(hexagon);
-  return picture;
 }
 
 QIcon ApplicationIcon() {

@@ -4,13 +4,17 @@
 #include <QPixmap>
 #include <QSize>
 
+class QPainter;
+
 namespace tessarine {
 
 // The pictures of the windows, drawn here: no picture files, nothing from any game.
 
 // The emblem: a hexagon of triangle tiles. Image6 of the main window, the About box's
-// icon and the application icon.
+// icon and the application icon, also as the installed icon files (tools/icons).
 QPixmap EmblemPicture(int size);
+// The emblem drawn on any painter, in a square of `size` at its origin.
+void DrawEmblem(QPainter& p, double size);
 QIcon ApplicationIcon();
 
 // The face of the three image buttons of the main window, normal or pressed (idown).

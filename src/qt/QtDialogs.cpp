@@ -8,6 +8,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QProcess>
+#include <QSettings>
 #include <QStandardPaths>
 
 namespace tessarine {
@@ -31,6 +32,12 @@ QString FindProgram(std::string_view name) {
 
 }  // namespace
 
+QtDialogs::QtDialogs() {
+  for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat}) {
+    QSettings::setPath(format, QSettings::UserScope, dialogSettings_.path());
+  }
+}
+
 QString QtFileFilter(std::string_view filter) {
   const QStringList parts = Q(filter).split('|');
   QStringList filters;
@@ -45,8 +52,9 @@ MessageAnswer QtDialogs::Message(std::string_view text, MessageButtons buttons, 
   box.setWindowTitle(Q(title));
   box.setText(Q(text));
   if (buttons == MessageButtons::YesNo) {
+    // A question before a write: Enter pressed by habit answers No, and nothing is written.
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.setDefaultButton(QMessageBox::Yes);
+    box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
   }
   box.setStandardButtons(QMessageBox::Ok);
@@ -65,7 +73,13 @@ std::optional<std::string> QtDialogs::Input(std::string_view prompt, std::string
 }
 
 std::string QtDialogs::OpenFile(std::string_view title, std::string_view filter) {
-  return QFileDialog::getOpenFileName(Owner(), Q(title), {}, QtFileFilter(filter)).toStdString();
+  // Qt's own dialog everywhere: a desktop's dialog would keep the file among its recent ones.
+  const auto folder = folders_.find(filter);
+  const QString startIn = folder == folders_.end() ? QString() : folder->second;
+  const QString path = QFileDialog::getOpenFileName(Owner(), Q(title), startIn, QtFileFilter(filter), nullptr,
+                                                    QFileDialog::DontUseNativeDialog);
+  if (!path.isEmpty()) folders_[std::string(filter)] = QFileInfo(path).absolutePath();
+  return path.toStdString();
 }
 
 bool QtDialogs::StartProgram(std::string_view name) {

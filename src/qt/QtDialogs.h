@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <QTemporaryDir>
+#include <map>
+#include <string>
 
 #include "forms/Dialogs.h"
 
@@ -8,14 +11,25 @@ namespace tessarine {
 
 // The questions of Dialogs as real Qt dialogs, over the window that is active. Windows
 // are shown and hidden by QtShell, which wraps this; Show and Hide do nothing here.
+//
+// A file dialog starts in the folder of the last file chosen in a dialog of its filter, for
+// as long as this object lives; nothing of it outlives the program.
 class QtDialogs : public Dialogs {
  public:
+  QtDialogs();
   MessageAnswer Message(std::string_view text, MessageButtons buttons, std::string_view title) override;
   std::optional<std::string> Input(std::string_view prompt, std::string_view title) override;
   std::string OpenFile(std::string_view title, std::string_view filter) override;
   void Show(WindowName) override {}
   void Hide(WindowName) override {}
   bool StartProgram(std::string_view name) override;
+
+ private:
+  std::map<std::string, QString, std::less<>> folders_;  // by filter
+  // Where Qt's file dialog keeps its history and last folder (the user's "QtProject"
+  // settings), so that they stay with this run and go with it. On Windows those settings
+  // are in the registry, which this does not reach.
+  QTemporaryDir dialogSettings_;
 };
 
 // "Pokemon Advance rom|*.gba" (description and pattern, in pairs) as a Qt file filter:

@@ -67,6 +67,16 @@ std::optional<std::string> SentenceThatEnds(const std::function<void()>& action)
   return std::nullopt;
 }
 
+// A window that opens takes the keyboard at its first field, in its tab order.
+void FocusFirstField(QWidget* window) {
+  for (QWidget* field = window->nextInFocusChain(); field != window; field = field->nextInFocusChain()) {
+    if ((field->focusPolicy() & Qt::TabFocus) && field->isEnabled() && field->isVisibleTo(window)) {
+      field->setFocus(Qt::TabFocusReason);
+      return;
+    }
+  }
+}
+
 }  // namespace
 
 void QtShell::Run(const std::function<void()>& action) {
@@ -101,6 +111,7 @@ void QtShell::ShowWindow(WindowName window) {
       view.widget->show();
       LoadWindow(session_, dialogs_, window);  // a load that fails leaves the window standing
       view.refresh(view.widget);
+      FocusFirstField(view.widget);
     }
     shown = view.widget;
   }

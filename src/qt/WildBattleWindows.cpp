@@ -11,12 +11,6 @@
 #include "scripts/WildBattleForms.h"
 
 namespace tessarine {
-namespace {
-
-constexpr int kNumberWidth = 100;
-
-}  // namespace
-
 WildBattleWindow::WildBattleWindow(QtShell& shell, WildBattleForm& form, const char* name)
     : QWidget(&shell.mainWindow(), Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                        Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
@@ -47,9 +41,10 @@ WildBattleWindow::WildBattleWindow(QtShell& shell, WildBattleForm& form, const c
   Text3_ = Named(new QLineEdit(this), "Text3");
   Command1_ = Named(new QPushButton(this), "Command1");
   Command1_->setDefault(true);
-  for (QWidget* number : std::initializer_list<QWidget*>{pkmntxt_, crytxt_, Combo3_, Text3_}) {
-    number->setFixedWidth(kNumberWidth);
-  }
+  FitNumber(pkmntxt_, NumberText::Word);
+  FitNumber(crytxt_, NumberText::Word);
+  FitNumber(Text3_, NumberText::Offset);
+  Combo3_->setFixedWidth(Text3_->minimumWidth());  // the level list as wide as the offset below it
 
   grid_->setContentsMargins(14, 14, 14, 14);
   grid_->setHorizontalSpacing(8);
@@ -83,6 +78,7 @@ void WildBattleWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void WildBattleWindow::FinishLayout() {
+  CloseOnEscape(this, Command1_);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(Command1_);
@@ -122,7 +118,7 @@ Form4Window::Form4Window(QtShell& shell, Form4& form)
       Label6_(Named(new QLabel(this), "Label6")),
       Text12_(Named(new QLineEdit(this), "Text12")),
       Label7_(Named(new QLabel(this), "Label7")) {
-  Text12_->setFixedWidth(kNumberWidth);
+  FitNumber(Text12_, NumberText::Offset);
   Label7_->setWordWrap(true);
   grid_->addWidget(Label6_, 5, 0);
   grid_->addWidget(Text12_, 5, 1);

@@ -18,6 +18,7 @@ frmAboutWindow::frmAboutWindow(QtShell& shell, frmAbout& form)
       picIcon_(new QLabel(this)),
       lblTitle_(new QLabel(this)),
       lblVersion_(new QLabel(this)),
+      lblCommit_(new QLabel(this)),
       lblDescription_(new QLabel(this)),
       cmdOK_(new QPushButton(this)) {
   setObjectName("frmAbout");
@@ -26,6 +27,7 @@ frmAboutWindow::frmAboutWindow(QtShell& shell, frmAbout& form)
   picIcon_->setObjectName("picIcon");
   lblTitle_->setObjectName("lblTitle");
   lblVersion_->setObjectName("lblVersion");
+  lblCommit_->setObjectName("lblCommit");
   lblDescription_->setObjectName("lblDescription");
   cmdOK_->setObjectName("cmdOK");
 
@@ -34,21 +36,24 @@ frmAboutWindow::frmAboutWindow(QtShell& shell, frmAbout& form)
   titleFont.setPointSizeF(titleFont.pointSizeF() * 1.6);
   titleFont.setBold(true);
   lblTitle_->setFont(titleFont);
+  lblCommit_->setTextInteractionFlags(Qt::TextSelectableByMouse);  // to be copied into a report
   lblDescription_->setWordWrap(true);
   lblDescription_->setMinimumWidth(320);
   cmdOK_->setDefault(true);
+  cmdOK_->setToolTip("Closes the window (Esc)");  // as any dialog's Esc does
 
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(16, 16, 16, 16);
   grid->setHorizontalSpacing(16);
-  grid->addWidget(picIcon_, 0, 0, 3, 1, Qt::AlignTop);
+  grid->addWidget(picIcon_, 0, 0, 4, 1, Qt::AlignTop);
   grid->addWidget(lblTitle_, 0, 1);
   grid->addWidget(lblVersion_, 1, 1);
-  grid->addWidget(lblDescription_, 2, 1);
+  grid->addWidget(lblCommit_, 2, 1);
+  grid->addWidget(lblDescription_, 3, 1);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(cmdOK_);
-  grid->addLayout(buttons, 3, 0, 1, 2);
+  grid->addLayout(buttons, 4, 0, 1, 2);
   grid->setSizeConstraint(QLayout::SetFixedSize);
 
   connect(cmdOK_, &QPushButton::clicked, this, &QDialog::close);
@@ -59,6 +64,7 @@ void frmAboutWindow::Refresh() {
   setWindowTitle(QString::fromStdString(form_.title));
   lblTitle_->setText(QString::fromStdString(form_.lblTitle.caption));
   lblVersion_->setText(QString::fromStdString(form_.lblVersion.caption));
+  lblCommit_->setText(QString::fromStdString(form_.lblCommit.caption));
   lblDescription_->setText(QString::fromStdString(form_.lblDescription.caption));
   cmdOK_->setText(QString::fromStdString(form_.cmdOK.caption));
 }

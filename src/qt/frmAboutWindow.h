@@ -10,7 +10,7 @@ namespace tessarine {
 class QtShell;
 struct frmAbout;
 
-// The About box: the tool's name, version and what it is for.
+// The About box: the tool's name, version, the commit it was built from and what it is for.
 class frmAboutWindow : public QDialog {
   Q_OBJECT
 
@@ -23,6 +23,7 @@ class frmAboutWindow : public QDialog {
   QLabel* picIcon_;
   QLabel* lblTitle_;
   QLabel* lblVersion_;
+  QLabel* lblCommit_;
   QLabel* lblDescription_;
   QPushButton* cmdOK_;
 };

@@ -1,9 +1,14 @@
 #include "shell/OpenRom.h"
 
+#include <cctype>
+#include <filesystem>
+#include <system_error>
+
 #include "events/EventSelection.h"
 #include "forms/Dialogs.h"
 #include "forms/Form1.h"
 #include "rom/Failure.h"
+#include "rom/FilePath.h"
 #include "rom/GameProfile.h"
 #include "rom/RomImage.h"
 #include "shell/SpeciesList.h"
@@ -99,6 +104,56 @@ void OpenRomFile(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string
   form.Command6.enabled = false;
 }
 
+// What was dropped, in quotes, as its sentence names it: a piece of text only by its start.
+std::string Quoted(const std::string& dropped) {
+  constexpr std::size_t kLongest = 60;
+  std::string shown = dropped.substr(0, dropped.find_first_of("\r\n"));
+  if (shown.size() > kLongest) {
+    std::size_t cut = kLongest;
+    while (cut > 0 && (static_cast<unsigned char>(shown[cut]) & 0xC0) == 0x80) --cut;  // not inside a letter
+    shown = shown.substr(0, cut) + "...";
+  } else if (shown.size() < dropped.size()) {
+    shown += "...";
+  }
+  return "\"" + shown + "\"";
+}
+
+bool NamesAGbaFile(const std::string& path) {
+  std::string end = path.size() < 4 ? std::string() : path.substr(path.size() - 4);
+  for (char& c : end) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return end == ".gba";
+}
+
+bool IsFolder(const std::string& path) {
+  std::error_code unknown;  // a path that cannot be looked at is no folder; opening it will tell
+  try {
+    return std::filesystem::is_directory(ToFilePath(path), unknown);
+  } catch (const std::filesystem::filesystem_error&) {
+    return false;
+  }
+}
+
+// Why a drop opens nothing, or "" when it is one .gba file.
+std::string RefusalOf(const Dropped& dropped) {
+  std::vector<std::string> all = dropped.paths;
+  all.insert(all.end(), dropped.others.begin(), dropped.others.end());
+  if (all.empty()) return "What was dropped is no file.";
+  if (all.size() > 1) {
+    constexpr std::size_t kNamed = 3;
+    std::string names;
+    for (std::size_t i = 0; i < all.size() && i < kNamed; ++i) {
+      const bool last = i + 1 == all.size();
+      names += (i == 0 ? "" : last ? " and " : ", ") + Quoted(all[i]);
+    }
+    if (all.size() > kNamed) names += " and " + std::to_string(all.size() - kNamed) + " more";
+    return std::to_string(all.size()) + " things were dropped: " + names + ".";
+  }
+  if (dropped.paths.empty()) return Quoted(all[0]) + " is not a file on this computer.";
+  if (IsFolder(all[0])) return Quoted(all[0]) + " is a folder.";
+  if (!NamesAGbaFile(all[0])) return Quoted(all[0]) + " is not a .gba file.";
+  return "";
+}
+
 }  // namespace
 
 void OpenRom(Form1& form, RomImage& rom, Dialogs& dialogs) {
@@ -111,6 +166,13 @@ void OpenRom(Form1& form, RomImage& rom, Dialogs& dialogs) {
 void OpenRomAt(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string& path) {
   CloseRom(form, rom);
   OpenRomFile(form, rom, dialogs, path);
+}
+
+void OpenDropped(Form1& form, RomImage& rom, Dialogs& dialogs, const Dropped& dropped) {
+  if (const std::string refusal = RefusalOf(dropped); !refusal.empty()) {
+    throw Failure(refusal + " Drop one .gba file on the window to open it; nothing was opened.");
+  }
+  OpenRomAt(form, rom, dialogs, dropped.paths.front());
 }
 
 }  // namespace tessarine

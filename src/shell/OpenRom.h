@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace tessarine {
 
@@ -17,5 +18,17 @@ void OpenRom(Form1& form, RomImage& rom, Dialogs& dialogs);
 // The same open with the file already chosen (a file dropped on the window): the list is
 // cleared and the file closed, then the steps after the dialog run on `path`.
 void OpenRomAt(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string& path);
+
+// What a person dropped on the main window: the files and folders of this computer by their
+// paths (UTF-8), and anything else (an address on another computer, a piece of text) as text.
+struct Dropped {
+  std::vector<std::string> paths;
+  std::vector<std::string> others;
+};
+
+// A drop on the main window. One .gba file opens by OpenRomAt, as if the Open dialog had
+// given it. Anything else (several things, a folder, a file of another name, no file) throws a
+// Failure that names what was dropped, before the ROM that is open is touched.
+void OpenDropped(Form1& form, RomImage& rom, Dialogs& dialogs, const Dropped& dropped);
 
 }  // namespace tessarine

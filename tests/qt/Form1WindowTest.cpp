@@ -5,12 +5,16 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QPushButton>
 #include <QThread>
 #include <QTimer>
+#include <QUrl>
 
 #include "qt/LinedTextBoxWidget.h"
 #include "qt/QtListingProgress.h"
@@ -29,6 +33,7 @@ using test::Type;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::MatchesRegex;
 
 class Form1WindowTest : public ::testing::Test {
  protected:
@@ -143,16 +148,73 @@ TEST_F(Form1WindowTest, TheCaptionOfOpenDoesNothingAndTheAboutBoxIsOneModelessWi
   QTest::keyClick(Find<ImageButton>("Image3"), Qt::Key_Return);  // the keyboard reaches Open
   QTest::qWait(300);                                              // animateClick's press
   EXPECT_EQ(dialogs.fileDialogs.size(), 1u);
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QTest::keyClick(&window, Qt::Key_O, Qt::ControlModifier);  // Ctrl+O is Open
+  EXPECT_EQ(dialogs.fileDialogs.size(), 2u);
+  QString popUp;
+  QTimer::singleShot(0, [&] {
+    if (QWidget* menu = QApplication::activePopupWidget()) {
+      popUp = menu->objectName();
+      menu->close();
+    }
+  });
+  QTest::keyClick(&window, Qt::Key_T, Qt::AltModifier);  // Alt+T opens the Tools menu
+  EXPECT_EQ(popUp, "mnuptro");
   QTest::mouseClick(Find<QLabel>("Label17"), Qt::LeftButton);  // About's caption opens it
   QWidget* about = shell.Window(WindowName::frmAbout);
   ASSERT_NE(about, nullptr);
   EXPECT_EQ(about->findChild<QLabel*>("lblVersion")->text(), "Version 0.5.112");
+  EXPECT_THAT(about->findChild<QLabel*>("lblCommit")->text().toStdString(),
+              MatchesRegex("Commit ([0-9a-f]{12}(-dirty)?|unknown)"));  // the commit of the build
   EXPECT_FALSE(about->isModal());
   QTest::mouseClick(Find<ImageButton>("Image5"), Qt::LeftButton);
   EXPECT_EQ(shell.Window(WindowName::frmAbout), about);
-  QTest::mouseClick(about->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+  QTest::keyClick(about, Qt::Key_Escape);  // closes it as OK does
   QTest::qWait(0);
   EXPECT_EQ(shell.Window(WindowName::frmAbout), nullptr);
+  QTest::mouseClick(Find<ImageButton>("Image5"), Qt::LeftButton);
+  QTest::mouseClick(shell.Window(WindowName::frmAbout)->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+  QTest::qWait(0);
+  EXPECT_EQ(shell.Window(WindowName::frmAbout), nullptr);
+}
+
+// What is dropped on the window, also over a field: one .gba file opens as Open does, anything
+// else is refused by a sentence that names it, and the ROM that was open stays open.
+TEST_F(Form1WindowTest, AGbaFileDroppedOnTheWindowOpensAndAnythingElseIsRefusedByName) {
+  test::FixtureRom ruby = test::EventFixtureRom("AXVE"), fixture = test::EventFixtureRom("AXPE");
+  ClickOpen(ruby.path());
+  const QString rom = QString::fromStdString(fixture.path()), folder = QDir::tempPath();
+  const QUrl file = QUrl::fromLocalFile(rom), notes = QUrl::fromLocalFile(rom + ".txt");
+  const struct {
+    QList<QUrl> urls;
+    QString text;
+    std::string refusal;  // "" where it opens
+  } rows[] = {
+      {{notes}, notes.toLocalFile(), "\"" + notes.toLocalFile().toStdString() + "\" is not a .gba file."},
+      {{QUrl::fromLocalFile(folder)}, {}, "\"" + folder.toStdString() + "\" is a folder."},
+      {{file, file, notes, notes}, {}, "4 things were dropped: \"" + rom.toStdString() + "\", \"" + rom.toStdString() +
+                                           "\", \"" + notes.toLocalFile().toStdString() + "\" and 1 more."},
+      {{QUrl("https://example.org/rom.gba")}, {}, "\"https://example.org/rom.gba\" is not a file on this computer."},
+      {{}, "Rayquaza\nat the top of Sky Pillar", "\"Rayquaza...\" is not a file on this computer."},
+      {{}, {}, "What was dropped is no file."},
+      {{file}, rom, ""},
+  };
+  for (const auto& row : rows) {
+    dialogs.messages.clear();
+    QMimeData data;
+    data.setUrls(row.urls);
+    if (!row.text.isEmpty()) data.setText(row.text);  // as file managers give it too, which a field would take
+    QDragEnterEvent enter(QPoint(4, 4), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(Find("spritetxt"), &enter);
+    QDropEvent drop(QPointF(4, 4), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(Find("spritetxt"), &drop);
+    QTest::qWait(0);
+    const std::string told = row.refusal + " Drop one .gba file on the window to open it; nothing was opened.";
+    EXPECT_EQ(dialogs.MessageTexts(), row.refusal.empty() ? std::vector<std::string>{} : std::vector{told});
+    EXPECT_EQ(Find<QLabel>("hdtxt")->text(), row.refusal.empty() ? "AXPE" : "AXVE");
+    EXPECT_EQ(Find<QComboBox>("Combo1")->count(), 412);
+  }
 }
 
 TEST_F(Form1WindowTest, AnUnknownGameShowsTheUnsupportedRomDialogInsteadOfTheMainWindow) {

@@ -5,7 +5,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QFrame>
 #include <QImage>
 #include <QInputDialog>
@@ -15,6 +17,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -135,6 +138,78 @@ TEST_F(ToolWindowsTest, EachBuilderWritesTheBattlePickedInItsListsAndCloses) {
   }
 }
 
+// A number field shows the longest text of its kind ("&H" and `digits` digits) whole: its cursor
+// at the end stands the text's width from its start, nothing scrolled away.
+void ExpectWhole(QWidget* window, const char* field, int digits) {
+  auto* box = window->findChild<QLineEdit*>(field);
+  const auto cursorAt = [box] { return box->inputMethodQuery(Qt::ImCursorRectangle).toRect().left(); };
+  for (const char digit : {'0', 'F'}) {
+    const QString text = "&H" + QString(digits, QChar(digit));
+    box->setText(text);
+    box->home(false);
+    const int start = cursorAt();
+    box->end(false);
+    box->grab();  // a paint, which scrolls the text if it must
+    EXPECT_EQ(cursorAt() - start, box->fontMetrics().horizontalAdvance(text)) << field << digit;
+  }
+}
+
+// In a large desktop font, each window's number fields show their longest texts whole. Each tool
+// opens with its first field in focus, Tab walks its fields as they are read, and Esc closes it;
+// none of this writes.
+TEST(ToolKeysTest, FieldsFitInALargeFontTabWalksThemInOrderAndEscClosesWithoutWriting) {
+  const QFont font = QApplication::font();
+  QApplication::setFont(QFont(font.family(), 20));
+  test::FixtureRom fixture = BuilderRom();
+  test::ScriptedDialogs dialogs;
+  dialogs.openFileAnswers = {fixture.path()};
+  QtShell shell(dialogs);
+  shell.Run([&] { OpenRom(shell.form1(), shell.rom(), shell.dialogs()); });
+  const ByteOracle oracle(fixture.path());
+  const int offset = 8, word = 4, byte = 2;
+  for (const auto& [field, digits] : {std::pair{"spritetxt", word}, {"scriptpointxt", offset}, {"Text2", word},
+                                      {"Text3", offset}}) {
+    ExpectWhole(shell.Window(WindowName::Form1), field, digits);
+  }
+  const char* const battle[] = {"Combo1", "pkmntxt", "crytxt", "Combo3", "Combo2", "Text3"};
+  const struct {
+    MenuEntry entry;
+    WindowName name;
+    std::vector<std::string> tabs;  // from the first field on
+    std::vector<std::pair<const char*, int>> numbers;
+  } rows[] = {
+      {MenuEntry::mnuwbs, WindowName::Form4, {std::begin(battle), std::end(battle)},
+       {{"pkmntxt", word}, {"crytxt", word}, {"Text3", offset}, {"Text12", offset}}},
+      {MenuEntry::mnugps, WindowName::Form5, {"Combo1", "pkmntxt", "Combo3", "Combo2", "Text3", "Text12", "Command1"},
+       {{"pkmntxt", word}, {"Text3", offset}, {"Text12", offset}}},
+      {MenuEntry::mnuib, WindowName::Form6, {"Text1", "Text2", "Text3", "postionleft", "postiontop", "msgboxleft"},
+       {{"Text2", offset}, {"Text3", offset}, {"postionleft", byte}, {"brailletop", byte}}},
+      {MenuEntry::mnustart, WindowName::Form2, {"Combo1", "Combo2", "Combo3", "Command1", "Command3", "Command2"}, {}},
+      {MenuEntry::mnuflin, WindowName::Form8, {"hoenn", "loadbutton", "savebutton", "XXt", "YYt", "Command2"},
+       {{"XXt", byte}, {"YYt", byte}, {"Text1", word}}},
+  };
+  for (const auto& row : rows) {
+    dialogs.messageAnswers = {MessageAnswer::Yes};  // a message in the wild battle: Form4
+    shell.Run([&] { RunMenuEntry(row.entry, shell.session(), shell.dialogs()); });
+    QWidget* window = shell.Window(row.name);
+    ASSERT_TRUE(window != nullptr && QTest::qWaitForWindowExposed(window));
+    std::vector<std::string> walked;
+    for (std::size_t i = 0; i < row.tabs.size(); ++i) {
+      walked.push_back(window->focusWidget()->objectName().toStdString());
+      QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(walked, row.tabs);
+    for (const auto& [field, digits] : row.numbers) ExpectWhole(window, field, digits);
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    QTest::keyClick(window->focusWidget(), Qt::Key_Escape);
+    QTest::qWait(0);
+    EXPECT_EQ(shell.Window(row.name), nullptr);
+  }
+  EXPECT_THAT(oracle.Changes(), IsEmpty());
+  QApplication::setFont(font);
+}
+
 TEST_F(ToolWindowsTest, Form2SavesWhatIsPickedAndDoneClosesWithoutWriting) {
   test::FixtureRom fixture = test::EventFixtureRom("AXVE");
   fixture.PutWord(0x3F76C4, 0x115).PutWord(0x3F76C6, 0x118).PutWord(0x3F76C8, 0x11B);
@@ -169,6 +244,36 @@ TEST(QtDialogsTest, AnInputBoxShowsTheAmpersandOfItsPrompt) {
   });
   EXPECT_EQ(QtDialogs().Input(kPokemonEntryPrompt, kDefaultTitle), std::nullopt);
   EXPECT_EQ(shown.toStdString(), kPokemonEntryPrompt);
+}
+
+// A question before a write answers No to Enter, so that Enter pressed by habit writes nothing.
+TEST(QtDialogsTest, EnterInAYesNoQuestionAnswersNo) {
+  QTimer::singleShot(0, [] {
+    if (QWidget* box = QApplication::activeModalWidget()) QTest::keyClick(box, Qt::Key_Return);
+  });
+  EXPECT_EQ(QtDialogs().Message("Insert?", MessageButtons::YesNo, kDefaultTitle), MessageAnswer::No);
+}
+
+// The ROM dialog starts in the folder of the last ROM chosen, in this run: Qt's own record of
+// the dialog's folders is left nowhere.
+TEST(QtDialogsTest, TheFileDialogRemembersItsFolderForTheRunOnly) {
+  QTemporaryDir roms;
+  const QString rom = roms.filePath("a.gba");
+  QFile(rom).open(QIODevice::WriteOnly);
+  QString startedIn;  // by the second dialog
+  QtDialogs dialogs;
+  for (int i = 0; i < 2; ++i) {
+    QTimer::singleShot(0, [&] {
+      auto* box = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      startedIn = box->directory().path();
+      box->findChild<QLineEdit*>("fileNameEdit")->setText(rom);
+      QMetaObject::invokeMethod(box, "accept");
+    });
+    EXPECT_EQ(dialogs.OpenFile("Open", "Pokemon Advance rom|*.gba"), rom.toStdString());
+  }
+  EXPECT_EQ(startedIn.toStdString(), roms.path().toStdString());
+  const QDir config(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+  EXPECT_EQ(config.entryList(QDir::Files).join(' ').toStdString(), "");
 }
 
 TEST_F(ToolWindowsTest, Form6InsertsLoadsAndPreviewsABrailleRecord) {
