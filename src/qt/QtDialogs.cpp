@@ -44,9 +44,9 @@ MessageAnswer QtDialogs::Message(std::string_view text, MessageButtons buttons, 
   QMessageBox box(Owner());
   box.setWindowTitle(Q(title));
   box.setText(Q(text));
-  if (buttons == MessageButtons::YesNo) {
+  if (buttons != MessageButtons::Ok) {
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.setDefaultButton(QMessageBox::Yes);
+    box.setDefaultButton(buttons == MessageButtons::YesNo ? QMessageBox::Yes : QMessageBox::No);
     return box.exec() == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
   }
   box.setStandardButtons(QMessageBox::Ok);
@@ -54,12 +54,13 @@ MessageAnswer QtDialogs::Message(std::string_view text, MessageButtons buttons, 
   return MessageAnswer::Ok;
 }
 
-std::optional<std::string> QtDialogs::Input(std::string_view prompt, std::string_view title) {
+std::optional<std::string> QtDialogs::Input(std::string_view prompt, std::string_view title,
+                                            std::string_view initial) {
   bool ok = false;
   // The box's label is the buddy of its field, so a single "&" would mark a shortcut key
   // and not show: "Enter &H and the Hex ..." would read "Enter H and the Hex ...".
   const QString label = Q(prompt).replace(u'&', QStringLiteral("&&"));
-  const QString answer = QInputDialog::getText(Owner(), Q(title), label, QLineEdit::Normal, {}, &ok);
+  const QString answer = QInputDialog::getText(Owner(), Q(title), label, QLineEdit::Normal, Q(initial), &ok);
   if (!ok) return std::nullopt;
   return answer.toStdString();
 }
