@@ -5,6 +5,7 @@
 
 #include "braille/BrailleRecord.h"
 #include "forms/Dialogs.h"
+#include "forms/FreeSpace.h"
 #include "forms/WriteRule.h"
 #include "rom/Failure.h"
 #include "rom/HexField.h"
@@ -58,6 +59,9 @@ void PlanInsertion(const Form6& form, RomWrite& write) {
   write.Add({"its script", scriptOffset, std::move(script), scriptField, form.Text3.text});
 }
 
+std::int64_t RecordLength(const Form6& form) { return std::ssize(BrailleRecordBytes({}, form.Text1.text)); }
+std::int64_t ScriptLength() { return std::ssize(BrailleScriptBytes(kCartridgeHeaderEnd)); }
+
 std::string DoubledLineBreaks(std::string_view text) {
   std::string doubled;
   doubled.reserve(text.size());
@@ -87,7 +91,17 @@ void PressInsert(Form6& form, const Form1& main, RomImage& rom, Dialogs& dialogs
   } catch (const Failure& failure) {
     throw write.Stopped(failure);
   }
-  write.CheckAndWrite();
+  (void)write.CheckAskAndWrite(dialogs);  // No writes nothing and says nothing more
+}
+
+void PressFindRecordSpace(Form6& form, RomImage& rom, Dialogs& dialogs) {
+  PressFindFreeSpace(form.Text2, FieldName(form.Label8), "the braille record", RecordLength(form), &form.Text3,
+                     ScriptLength(), rom, dialogs);
+}
+
+void PressFindScriptSpace(Form6& form, RomImage& rom, Dialogs& dialogs) {
+  PressFindFreeSpace(form.Text3, FieldName(form.Label11), "its script", ScriptLength(), &form.Text2,
+                     RecordLength(form), rom, dialogs);
 }
 
 void PressLoad(Form6& form, const Form1& main, RomImage& rom) {

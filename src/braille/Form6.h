@@ -67,6 +67,8 @@ struct Form6 {
   Button Command3{"Apply"};
   Button Command4{"Restore"};
   Button Command5{"Load Screenshot"};
+  Button Command6{"Find Free Space"};  // beside Text2
+  Button Command7{"Find Free Space"};  // beside Text3
   PictureBox Picture1;
   Shape Shape1;
   PlacedLabel Label1;
@@ -78,9 +80,15 @@ struct Form6 {
 // Insert: asks, and on Yes writes the record (the six header fields, Text1's cells, 0xFF 0x00)
 // at Text2 and its script at Text3. Every field is parsed, the pointer made, and both blocks
 // passed by the write rule (forms/WriteRule.h: inside the file, out of the cartridge header,
-// from a window of the ROM that is open) before the first write: a Failure there writes
-// nothing.
+// from a window of the ROM that is open) and its free-space question before the first write:
+// a Failure there, or No, writes nothing.
 void PressInsert(Form6& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
+
+// "Find Free Space" beside Text2: free space for the record of the text in Text1 (header,
+// cells, FF 00), kept clear of the script at Text3; beside Text3: for the 8-byte script,
+// kept clear of the record at Text2. See PressFindFreeSpace (forms/FreeSpace.h).
+void PressFindRecordSpace(Form6& form, RomImage& rom, Dialogs& dialogs);
+void PressFindScriptSpace(Form6& form, RomImage& rom, Dialogs& dialogs);
 
 // Load: Restore, then the record at Text2 into the six fields and Text1, then Apply. An
 // offset that does not parse fails with the fields as they were.

@@ -9,6 +9,8 @@ namespace tessarine {
 // The windows of the system, by their names.
 enum class WindowName { Form1, Form2, Form3, Form4, Form5, Form6, Form8, Form9, frmAbout };
 
+// A Yes/No question has No as its default button, which Enter presses: a question before a
+// write to the ROM, which cannot be undone, is never answered Yes by habit.
 enum class MessageButtons { Ok, YesNo };
 enum class MessageAnswer { Ok, Yes, No };
 
@@ -23,8 +25,9 @@ class Dialogs {
   // A message box; waits for the answer.
   virtual MessageAnswer Message(std::string_view text, MessageButtons buttons = MessageButtons::Ok,
                                 std::string_view title = kDefaultTitle) = 0;
-  // An input box; none when the person cancels it.
-  virtual std::optional<std::string> Input(std::string_view prompt, std::string_view title = kDefaultTitle) = 0;
+  // An input box, its field holding `initial` to start with; none when the person cancels it.
+  virtual std::optional<std::string> Input(std::string_view prompt, std::string_view title = kDefaultTitle,
+                                           std::string_view initial = {}) = 0;
   // A file-open dialog with a filter such as "Pokemon Advance rom|*.gba"; empty when cancelled.
   virtual std::string OpenFile(std::string_view title, std::string_view filter) = 0;
 

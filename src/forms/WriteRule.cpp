@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "forms/Dialogs.h"
 #include "forms/Form1.h"
 #include "rom/GameProfile.h"
 #include "rom/HexField.h"
@@ -44,13 +45,15 @@ std::string JoinNames(const std::vector<std::string>& names) {
   return joined;
 }
 
-// The pieces as runs of bytes: pieces that meet or overlap are one run, named by all of them.
-std::vector<std::string> Runs(std::span<const WritePiece> pieces) {
-  struct Run {
-    std::int64_t at;
-    std::int64_t end;
-    std::vector<std::string> names;
-  };
+struct Run {
+  std::int64_t at;
+  std::int64_t end;
+  std::vector<std::string> names;
+};
+
+// The pieces, in their order, as runs of bytes: pieces that meet or overlap the run before
+// are one run with it.
+std::vector<Run> MergedRuns(std::span<const WritePiece> pieces) {
   std::vector<Run> runs;
   for (const WritePiece& piece : pieces) {
     const std::int64_t end = piece.at + static_cast<std::int64_t>(piece.bytes.size());
@@ -62,6 +65,12 @@ std::vector<std::string> Runs(std::span<const WritePiece> pieces) {
       runs.push_back({piece.at, end, {piece.name}});
     }
   }
+  return runs;
+}
+
+// The pieces as runs of bytes, each named by the pieces it holds.
+std::vector<std::string> Runs(std::span<const WritePiece> pieces) {
+  const std::vector<Run> runs = MergedRuns(pieces);
   std::vector<std::string> texts;
   for (const Run& run : runs) {
     texts.push_back(Size(static_cast<std::size_t>(run.end - run.at)) + " at " + HexNumber(run.at) + " (" +
@@ -109,6 +118,36 @@ RomWrite& RomWrite::Expect(WritePiece piece) {
   return *this;
 }
 
+RomWrite& RomWrite::KeepApart() {
+  apart_ = true;
+  return *this;
+}
+
+bool RomWrite::ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>& alsoNotWritten) {
+  std::vector<WritePiece> places(pieces_.begin() + static_cast<std::ptrdiff_t>(asked_), pieces_.end());
+  std::ranges::sort(places, {}, &WritePiece::at);
+  std::vector<std::string> taken;
+  std::size_t notFree = 0;
+  for (const Run& run : MergedRuns(places)) {
+    const Bytes there = rom_.ReadBytes(static_cast<RomOffset>(run.at), static_cast<std::size_t>(run.end - run.at));
+    const auto count = static_cast<std::size_t>(std::ranges::count_if(there, [](std::uint8_t b) { return b != 0xFF; }));
+    if (count == 0) continue;
+    notFree += count;
+    taken.push_back("the " + Size(static_cast<std::size_t>(run.end - run.at)) + " at " + HexNumber(run.at));
+  }
+  if (notFree > 0) {
+    const std::string question = Capitalized(JoinNames(taken)) + " are not free space: " + std::to_string(notFree) +
+                                 (notFree == 1 ? " of them is not FF." : " of them are not FF.") +
+                                 " Write over them?";
+    if (dialogs.Message(question, MessageButtons::YesNo, "Not free space") != MessageAnswer::Yes) {
+      if (written_ == 0) return false;
+      throw Stopped(Failure("You chose not to write over the bytes that are not free space."), alsoNotWritten);
+    }
+  }
+  asked_ = pieces_.size();
+  return true;
+}
+
 void RomWrite::Check(const std::vector<std::string>& alsoNotWritten) const {
   const auto refuse = [&](const std::string& why) { return Stopped(Failure(why), alsoNotWritten); };
   if (!rom_.IsOpen()) throw refuse("No ROM is open. Open a ROM first.");
@@ -141,6 +180,20 @@ void RomWrite::Check(const std::vector<std::string>& alsoNotWritten) const {
     if (!rom_.Holds(piece.at, length)) {
       throw refuse(PieceAt(piece) + ", would run past the end of the ROM, which is " + HexNumber(rom_.Length()) +
                    " bytes long.");
+    }
+  }
+  if (!apart_) return;
+  std::vector<const WritePiece*> all;
+  for (const WritePiece& piece : pieces_) all.push_back(&piece);
+  for (const WritePiece& piece : expected_) all.push_back(&piece);
+  const auto end = [](const WritePiece* piece) { return piece->at + static_cast<std::int64_t>(piece->bytes.size()); };
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    for (std::size_t j = i + 1; j < all.size(); ++j) {
+      if (all[i]->at < end(all[j]) && all[j]->at < end(all[i])) {
+        throw refuse(PieceAt(*all[i]) + ", and " + PieceAt(*all[j]) +
+                     ", would share bytes: in the game a script that writes over its own pieces cannot run. Type "
+                     "offsets that keep them apart.");
+      }
     }
   }
 }

@@ -11,6 +11,7 @@
 
 namespace tessarine {
 
+class Dialogs;
 struct FilledAt;
 struct Form1;
 class RomImage;
@@ -59,6 +60,10 @@ class RomWrite {
   // typed): its place is checked with the others, for as many bytes as `piece` holds, the
   // least it will take. Adding a piece of the same name later puts it in its place.
   RomWrite& Expect(WritePiece piece);
+  // The pieces make one thing that runs in the game (a script and its own texts): none may
+  // lie over another, since the later one would break the earlier. Check refuses two that
+  // share a byte.
+  RomWrite& KeepApart();
 
   // The rule, before the pieces added and not yet written, and those expected, are written:
   //   - a ROM is open, the path it was opened by still names that file, and its header still
@@ -77,6 +82,23 @@ class RomWrite {
   void CheckAndWrite(const std::vector<std::string>& alsoNotWritten = {}) {
     Check(alsoNotWritten);
     Write(alsoNotWritten);
+  }
+
+  // The free-space question, for a tool that writes new data into free space (0xFF bytes):
+  // reads the places of the pieces added since the last question, and when any byte there is
+  // not 0xFF asks once, Yes or No with No the default, where and how many ("The 18 bytes at
+  // &H700000 are not free space: 12 of them are not FF. Write over them?"). True on Yes, or
+  // when all is free. On No: false while nothing is written, so that the action stops with
+  // nothing written; after a write, the Failure that names what was written. Asked after
+  // Check, which makes sure that the places lie inside the file.
+  bool ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>& alsoNotWritten = {});
+
+  // Check, the free-space question, Write; false when the answer No left all unwritten.
+  [[nodiscard]] bool CheckAskAndWrite(Dialogs& dialogs, const std::vector<std::string>& alsoNotWritten = {}) {
+    Check(alsoNotWritten);
+    if (!ConfirmFreeSpace(dialogs, alsoNotWritten)) return false;
+    Write(alsoNotWritten);
+    return true;
   }
 
   // Whether the action has written any piece yet.
@@ -100,6 +122,8 @@ class RomWrite {
   std::vector<WritePiece> pieces_;
   std::vector<WritePiece> expected_;
   std::size_t written_ = 0;  // pieces_[0, written_) are in the file
+  std::size_t asked_ = 0;    // pieces_[0, asked_) have been through the free-space question
+  bool apart_ = false;
 };
 
 }  // namespace tessarine

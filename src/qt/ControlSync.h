@@ -48,6 +48,13 @@ inline void Sync(QAbstractButton* widget, const Button& button) {
   widget->setVisible(button.visible);
 }
 
+inline void Sync(QAbstractButton* widget, const CheckBox& box) {
+  widget->setText(ToQString(box.caption));
+  widget->setChecked(box.checked);
+  widget->setEnabled(box.enabled);
+  widget->setVisible(box.visible);
+}
+
 inline void Sync(QLabel* widget, const Label& label) {
   widget->setText(ToQString(label.caption));
   widget->setVisible(label.visible);

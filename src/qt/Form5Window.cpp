@@ -1,5 +1,6 @@
 #include "qt/Form5Window.h"
 
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -30,7 +31,10 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
       Text3_(Named(new QLineEdit, this, "Text3")),
       Label5_(Named(new QLabel, this, "Label5")),
       Text12_(Named(new QLineEdit, this, "Text12")),
-      Command1_(Named(new QPushButton, this, "Command1")) {
+      Command1_(Named(new QPushButton, this, "Command1")),
+      Check1_(Named(new QCheckBox, this, "Check1")),
+      Command2_(Named(new QPushButton, this, "Command2")),
+      Command3_(Named(new QPushButton, this, "Command3")) {
   setObjectName("Form5");
   setAttribute(Qt::WA_DeleteOnClose);  // closing unloads it; the next opening starts afresh
   setWindowIcon(ApplicationIcon());
@@ -42,6 +46,7 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
   FitNumber(Text12_, NumberText::Offset);
   Combo3_->setFixedWidth(Text3_->minimumWidth());  // the level list as wide as the offsets below it
   Command1_->setDefault(true);
+  for (QPushButton* find : {Command2_, Command3_}) find->setAutoDefault(true);  // Enter on it presses it
 
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(14, 14, 14, 14);
@@ -56,9 +61,12 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
   grid->addWidget(Combo2_, 2, 2, 1, 2);
   grid->addWidget(Label4_, 3, 1);
   grid->addWidget(Text3_, 3, 2, Qt::AlignLeft);
+  grid->addWidget(Command2_, 3, 3);
   grid->addWidget(Label5_, 4, 1);
   grid->addWidget(Text12_, 4, 2, Qt::AlignLeft);
+  grid->addWidget(Command3_, 4, 3);
   auto* buttons = new QHBoxLayout;
+  buttons->addWidget(Check1_);
   buttons->addStretch();
   buttons->addWidget(Command1_);
   grid->addLayout(buttons, 5, 0, 1, 4);
@@ -78,6 +86,14 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
   connect(Command1_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { InsertGivePokemon(form_, shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
   CloseOnEscape(this, Command1_);
+  connect(Check1_, &QCheckBox::clicked, this, [this](bool on) { form_.Check1.checked = on; });
+  connect(Command2_, &QPushButton::clicked, this,
+          [this] { shell_.Run([this] { PressFindScriptSpace(form_, shell_.rom(), shell_.dialogs()); }); });
+  connect(Command3_, &QPushButton::clicked, this,
+          [this] { shell_.Run([this] { PressFindTextSpace(form_, shell_.rom(), shell_.dialogs()); }); });
+  // The fields in their order, then Insert and the new controls.
+  QWidget* const order[] = {Combo1_, pkmntxt_, Combo3_, Combo2_, Text3_, Text12_, Command1_, Check1_, Command2_, Command3_};
+  for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
   Refresh();
 }
 
@@ -96,6 +112,9 @@ void Form5Window::Refresh() {
   Sync(Label5_, form_.Label5);
   Sync(Text12_, form_.Text12);
   Sync(Command1_, form_.Command1);
+  Sync(Check1_, form_.Check1);
+  Sync(Command2_, form_.Command2);
+  Sync(Command3_, form_.Command3);
 }
 
 void Form5Window::keyPressEvent(QKeyEvent* event) {

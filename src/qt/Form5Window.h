@@ -4,6 +4,7 @@
 
 #include "qt/ControlSync.h"
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -45,6 +46,9 @@ class Form5Window : public QWidget {
   QLabel* Label5_;
   QLineEdit* Text12_;
   QPushButton* Command1_;
+  QCheckBox* Check1_;
+  QPushButton* Command2_;
+  QPushButton* Command3_;
   ComboSync combo1_, combo2_, combo3_;
 };
 

@@ -97,6 +97,9 @@ void Form6Window::BuildWidgets() {
   Command4_ = Named(new QPushButton(this), "Command4");
   Command5_ = Named(new QPushButton(this), "Command5");
   for (QLineEdit* field : {Text2_, Text3_}) FitNumber(field, NumberText::Offset);
+  Command6_ = Named(new QPushButton(this), "Command6");
+  Command7_ = Named(new QPushButton(this), "Command7");
+  for (QPushButton* find : {Command6_, Command7_}) find->setAutoDefault(true);  // Enter on it presses it
   for (QLineEdit* field : {postionleft_, postiontop_, msgboxleft_, msgboxtop_, brailleleft_, brailletop_}) {
     FitNumber(field, NumberText::Byte);
   }
@@ -129,9 +132,11 @@ void Form6Window::BuildWidgets() {
   auto* offsets = new QGridLayout;
   offsets->addWidget(Label8_, 0, 0);
   offsets->addWidget(Text2_, 0, 1);
+  offsets->addWidget(Command6_, 0, 2);
   offsets->addWidget(Label11_, 1, 0);
   offsets->addWidget(Text3_, 1, 1);
-  offsets->setColumnStretch(2, 1);
+  offsets->addWidget(Command7_, 1, 2);
+  offsets->setColumnStretch(3, 1);
 
   auto* header = new QGridLayout;
   const std::pair<QLabel*, QLineEdit*> fields[] = {{Label2_, postionleft_}, {Label3_, postiontop_},
@@ -175,7 +180,7 @@ void Form6Window::BuildWidgets() {
 
   QWidget* const order[] = {Text1_,      Text2_,     Text3_,       postionleft_, postiontop_, msgboxleft_,
                             msgboxtop_, brailleleft_, brailletop_, Command1_,    Command2_,   Command3_,
-                            Command4_,  Command5_};
+                            Command4_,  Command5_,   Command6_,    Command7_};
   for (std::size_t i = 1; i < std::size(order); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
@@ -201,6 +206,10 @@ void Form6Window::Connect() {
   connect(Command2_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { PressLoad(form_, shell_.form1(), shell_.rom()); }); });
   connect(Command3_, &QPushButton::clicked, this, [this] { shell_.Run([this] { PressApply(form_); }); });
+  connect(Command6_, &QPushButton::clicked, this,
+          [this] { shell_.Run([this] { PressFindRecordSpace(form_, shell_.rom(), shell_.dialogs()); }); });
+  connect(Command7_, &QPushButton::clicked, this,
+          [this] { shell_.Run([this] { PressFindScriptSpace(form_, shell_.rom(), shell_.dialogs()); }); });
   connect(Command4_, &QPushButton::clicked, this, [this] { shell_.Run([this] { PressRestore(form_); }); });
   connect(Command5_, &QPushButton::clicked, this, [this] {
     shell_.Run([this] {
@@ -256,6 +265,8 @@ void Form6Window::Refresh() {
   Sync(Command3_, form_.Command3);
   Sync(Command4_, form_.Command4);
   Sync(Command5_, form_.Command5);
+  Sync(Command6_, form_.Command6);
+  Sync(Command7_, form_.Command7);
 
   Picture1_->setFixedSize(form_.Picture1.Width, form_.Picture1.Height);
   const Shape& frame = form_.Shape1;

@@ -66,6 +66,8 @@ class Form6Window : public QWidget {
   QPushButton* Command3_;
   QPushButton* Command4_;
   QPushButton* Command5_;
+  QPushButton* Command6_;
+  QPushButton* Command7_;
   QLabel* Picture1_;
   QFrame* Shape1_;
   QLabel* Label1_;

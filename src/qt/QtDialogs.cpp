@@ -62,12 +62,13 @@ MessageAnswer QtDialogs::Message(std::string_view text, MessageButtons buttons, 
   return MessageAnswer::Ok;
 }
 
-std::optional<std::string> QtDialogs::Input(std::string_view prompt, std::string_view title) {
+std::optional<std::string> QtDialogs::Input(std::string_view prompt, std::string_view title,
+                                            std::string_view initial) {
   bool ok = false;
   // The box's label is the buddy of its field, so a single "&" would mark a shortcut key
   // and not show: "Enter &H and the Hex ..." would read "Enter H and the Hex ...".
   const QString label = Q(prompt).replace(u'&', QStringLiteral("&&"));
-  const QString answer = QInputDialog::getText(Owner(), Q(title), label, QLineEdit::Normal, {}, &ok);
+  const QString answer = QInputDialog::getText(Owner(), Q(title), label, QLineEdit::Normal, Q(initial), &ok);
   if (!ok) return std::nullopt;
   return answer.toStdString();
 }

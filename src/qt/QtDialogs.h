@@ -18,7 +18,8 @@ class QtDialogs : public Dialogs {
  public:
   QtDialogs();
   MessageAnswer Message(std::string_view text, MessageButtons buttons, std::string_view title) override;
-  std::optional<std::string> Input(std::string_view prompt, std::string_view title) override;
+  std::optional<std::string> Input(std::string_view prompt, std::string_view title = kDefaultTitle,
+                                   std::string_view initial = {}) override;
   std::string OpenFile(std::string_view title, std::string_view filter) override;
   void Show(WindowName) override {}
   void Hide(WindowName) override {}

@@ -57,8 +57,9 @@ class QtShell : public QObject {
     MessageAnswer Message(std::string_view text, MessageButtons buttons, std::string_view title) override {
       return questions_.Message(text, buttons, title);
     }
-    std::optional<std::string> Input(std::string_view prompt, std::string_view title) override {
-      return questions_.Input(prompt, title);
+    std::optional<std::string> Input(std::string_view prompt, std::string_view title,
+                                     std::string_view initial) override {
+      return questions_.Input(prompt, title, initial);
     }
     std::string OpenFile(std::string_view title, std::string_view filter) override {
       return questions_.OpenFile(title, filter);

@@ -1,5 +1,6 @@
 #include "qt/WildBattleWindows.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -45,6 +46,9 @@ WildBattleWindow::WildBattleWindow(QtShell& shell, WildBattleForm& form, const c
   FitNumber(crytxt_, NumberText::Word);
   FitNumber(Text3_, NumberText::Offset);
   Combo3_->setFixedWidth(Text3_->minimumWidth());  // the level list as wide as the offset below it
+  Check1_ = Named(new QCheckBox(this), "Check1");
+  Command4_ = Named(new QPushButton(this), "Command4");
+  Command4_->setAutoDefault(true);  // Enter on it presses it, not Insert
 
   grid_->setContentsMargins(14, 14, 14, 14);
   grid_->setHorizontalSpacing(8);
@@ -59,12 +63,16 @@ WildBattleWindow::WildBattleWindow(QtShell& shell, WildBattleForm& form, const c
   grid_->addWidget(Combo2_, 3, 1, 1, 3);
   grid_->addWidget(Label5_, 4, 0);
   grid_->addWidget(Text3_, 4, 1);
+  grid_->addWidget(Command4_, 4, 2, 1, 2, Qt::AlignLeft);
   grid_->setSizeConstraint(QLayout::SetFixedSize);
 
   WildBattleForm& f = form_;
   connect(Combo1_, &QComboBox::activated, this,
           [this](int i) { shell_.Run([this, i] { SetCombo1Selection(form_, i); }); });
   connect(Combo1_, &QComboBox::editTextChanged, this, [&f](const QString& t) { f.Combo1.text = t.toStdString(); });
+  connect(Combo1_->lineEdit(), &QLineEdit::returnPressed, this,
+          [this] { shell_.Run([this] { PickTypedSpecies(form_, shell_.dialogs()); }); });
+  connect(Check1_, &QCheckBox::clicked, this, [&f](bool on) { f.Check1.checked = on; });
   connect(Combo2_, &QComboBox::activated, this,
           [this](int i) { shell_.Run([this, i] { SetCombo2Selection(form_, i); }); });
   const std::pair<QLineEdit*, TextBox*> edits[] = {{pkmntxt_, &f.pkmntxt}, {crytxt_, &f.crytxt}, {Text3_, &f.Text3}};
@@ -74,15 +82,20 @@ WildBattleWindow::WildBattleWindow(QtShell& shell, WildBattleForm& form, const c
 }
 
 void WildBattleWindow::keyPressEvent(QKeyEvent* event) {
+  QWidget* focus = focusWidget();
+  if (focus != nullptr && (focus == Combo1_ || Combo1_->isAncestorOf(focus))) return QWidget::keyPressEvent(event);
   if (!EnterPresses(event, Command1_)) QWidget::keyPressEvent(event);
 }
 
 void WildBattleWindow::FinishLayout() {
   CloseOnEscape(this, Command1_);
   auto* buttons = new QHBoxLayout;
+  buttons->addWidget(Check1_);
   buttons->addStretch();
   buttons->addWidget(Command1_);
   grid_->addLayout(buttons, grid_->rowCount(), 0, 1, 4);
+  setTabOrder(Command1_, Check1_);
+  setTabOrder(Check1_, Command4_);
 }
 
 void WildBattleWindow::Refresh() {
@@ -100,6 +113,8 @@ void WildBattleWindow::Refresh() {
   Sync(Label5_, form_.Label5);
   Sync(Text3_, form_.Text3);
   Sync(Command1_, form_.Command1);
+  Sync(Check1_, form_.Check1);
+  Sync(Command4_, form_.Command4);
   RefreshOwn();
 }
 
@@ -108,6 +123,8 @@ Form3Window::Form3Window(QtShell& shell, Form3& form) : WildBattleWindow(shell, 
           [this](int i) { shell_.Run([this, i] { SetCombo3Selection(form3_, i); }); });
   connect(Command1_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { InsertWildBattle(form3_, shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+  connect(Command4_, &QPushButton::clicked, this,
+          [this] { shell_.Run([this] { PressFindScriptSpace(form3_, shell_.rom(), shell_.dialogs()); }); });
   FinishLayout();
   Refresh();
 }
@@ -117,11 +134,14 @@ Form4Window::Form4Window(QtShell& shell, Form4& form)
       form4_(form),
       Label6_(Named(new QLabel(this), "Label6")),
       Text12_(Named(new QLineEdit(this), "Text12")),
-      Label7_(Named(new QLabel(this), "Label7")) {
+      Label7_(Named(new QLabel(this), "Label7")),
+      Command5_(Named(new QPushButton(this), "Command5")) {
   FitNumber(Text12_, NumberText::Offset);
+  Command5_->setAutoDefault(true);
   Label7_->setWordWrap(true);
   grid_->addWidget(Label6_, 5, 0);
   grid_->addWidget(Text12_, 5, 1);
+  grid_->addWidget(Command5_, 5, 2, 1, 2, Qt::AlignLeft);
   grid_->addWidget(Label7_, 6, 0, 1, 4);
   setTabOrder(Text3_, Text12_);
   setTabOrder(Text12_, Command1_);
@@ -131,7 +151,12 @@ Form4Window::Form4Window(QtShell& shell, Form4& form)
           [this](int i) { shell_.Run([this, i] { SetCombo3Selection(form4_, i); }); });
   connect(Command1_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { InsertWildBattle(form4_, shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
+  connect(Command4_, &QPushButton::clicked, this,
+          [this] { shell_.Run([this] { PressFindScriptSpace(form4_, shell_.rom(), shell_.dialogs()); }); });
+  connect(Command5_, &QPushButton::clicked, this,
+          [this] { shell_.Run([this] { PressFindTextSpace(form4_, shell_.rom(), shell_.dialogs()); }); });
   FinishLayout();
+  setTabOrder(Command4_, Command5_);
   Refresh();
 }
 
@@ -140,6 +165,7 @@ void Form4Window::RefreshOwn() {
   Sync(Label6_, form4_.Label6);
   Sync(Text12_, form4_.Text12);
   Sync(Label7_, form4_.Label7);
+  Sync(Command5_, form4_.Command5);
 }
 
 }  // namespace tessarine

@@ -4,6 +4,7 @@
 
 #include "qt/ControlSync.h"
 
+class QCheckBox;
 class QComboBox;
 class QGridLayout;
 class QKeyEvent;
@@ -30,9 +31,11 @@ class WildBattleWindow : public QWidget {
 
  protected:
   WildBattleWindow(QtShell& shell, WildBattleForm& form, const char* name);
-  // Puts the Insert button below every row, once the form has added its own.
+  // Puts the Insert button and the check box below every row, once the form has added its
+  // own, and the new buttons last in the tab order.
   void FinishLayout();
-  // Enter in any field or list presses Insert, the window's default button.
+  // Enter in any field or list presses Insert, the window's default button; Enter in the
+  // species box, which takes typing, picks the row typed (PickTypedSpecies).
   void keyPressEvent(QKeyEvent* event) override;
   virtual void RefreshOwn() = 0;
 
@@ -41,6 +44,8 @@ class WildBattleWindow : public QWidget {
   QComboBox* Combo3_;
   QLineEdit* Text3_;
   QPushButton* Command1_;
+  QCheckBox* Check1_;
+  QPushButton* Command4_;
 
  private:
   WildBattleForm& form_;
@@ -84,6 +89,7 @@ class Form4Window : public WildBattleWindow {
   QLabel* Label6_;
   QLineEdit* Text12_;
   QLabel* Label7_;
+  QPushButton* Command5_;
 };
 
 }  // namespace tessarine

@@ -1,5 +1,6 @@
 #include "scripts/BuilderForms.h"
 
+#include "forms/Controls.h"
 #include "forms/Dialogs.h"
 #include "forms/WriteRule.h"
 #include "rom/Failure.h"
@@ -13,12 +14,23 @@ std::vector<std::string> LevelRows() {
   return rows;
 }
 
-void AskAndWriteMessage(RomWrite& write, Dialogs& dialogs, std::string_view title, std::string_view prompt,
-                        WritePiece message) {
+Bytes BuilderMessageBytes(const CheckBox& gameReady, std::string_view message) {
+  return gameReady.checked ? GameReadyMessageBytes(message) : MessageTextBytes(message);
+}
+
+std::optional<std::string> AskMessage(Dialogs& dialogs, std::string_view title, std::string_view prompt,
+                                      std::string& kept) {
+  std::optional<std::string> typed = dialogs.Input(prompt, title, kept);
+  if (typed) kept = *typed;
+  return typed;
+}
+
+bool AskAndWriteMessage(RomWrite& write, Dialogs& dialogs, std::string_view title, std::string_view prompt,
+                        WritePiece message, std::string& kept) {
   // One piece: a text that does not fit is refused whole, its end bytes with it.
-  message.bytes = MessageTextBytes(dialogs.Input(prompt, title).value_or(""));
+  message.bytes = MessageTextBytes(AskMessage(dialogs, title, prompt, kept).value_or(""));
   write.Add(std::move(message));
-  write.CheckAndWrite();
+  return write.CheckAskAndWrite(dialogs);
 }
 
 }  // namespace tessarine

@@ -4,6 +4,7 @@
 
 #include "forms/Dialogs.h"
 #include "forms/Form1.h"
+#include "forms/FreeSpace.h"
 #include "forms/WriteRule.h"
 #include "rom/Failure.h"
 #include "rom/GameProfile.h"
@@ -23,6 +24,16 @@ bool HasItemTable(const RomImage& rom, const Form1& main) {
   } catch (const Failure&) {
     return false;  // an unknown game before the Unsupported ROM dialog gave the offset
   }
+}
+
+constexpr std::string_view kScriptField = "Offset To insert Script";
+constexpr std::string_view kTextField = "Offset to insert new text";
+constexpr std::string_view kQuestion = "the question";
+
+// The bytes from S to the end of the block's last piece, in the mode the box selects.
+std::int64_t BlockLength(const Form5& form) {
+  if (form.Check1.checked) return kGameReadyGiveBlockLength;
+  return kNoRoomTextAt + std::ssize(GivePokemonPieces(0, 0, 0, 0, 0).back().bytes);
 }
 
 }  // namespace
@@ -58,12 +69,24 @@ void SetCombo2Selection(Form5& form, int index) {
 }
 
 void InsertGivePokemon(Form5& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
-  constexpr std::string_view kScriptField = "Offset To insert Script";
-  constexpr std::string_view kTextField = "Offset to insert new text";
   RomWrite write(rom, main);
   write.From(form.filled, FilledBeforeLastOpen("Close the form and open it again from the Tools menu to take the "
                                                "lists of the ROM that is open now."));
-  WritePiece question{"the question", 0, MessageTextBytes(""), std::string(kTextField), form.Text12.text};
+  const bool gameReady = form.Check1.checked;
+  std::string family;
+  std::optional<std::string> typed;
+  if (gameReady) {
+    write.KeepApart().Check();  // a window that may not write says so before the question
+    if (const GameProfile* profile = ProfileOf(main); profile != nullptr) family = profile->cowmoo;
+    try {
+      GameReadyGiveFanfare(family);
+    } catch (const Failure& failure) {
+      throw write.Stopped(failure);
+    }
+    typed = AskMessage(dialogs, kGiveMessageTitle, kGiveMessagePrompt, form.keptMessage);
+    if (!typed) return;
+  }
+  WritePiece question{std::string(kQuestion), 0, MessageTextBytes(""), std::string(kTextField), form.Text12.text};
   try {
     const RomOffset text = ParseInsertOffset(form.Text12.text, kTextField);
     question.at = text;
@@ -71,17 +94,34 @@ void InsertGivePokemon(Form5& form, const Form1& main, RomImage& rom, Dialogs& d
     const std::uint8_t level = ParseByte(form.Text1.text, "Level");
     const std::int16_t species = ParseWord(form.pkmntxt.text, "Pokemon");
     const RomOffset script = ParseInsertOffset(form.Text3.text, kScriptField);
-    for (ScriptPiece& piece : GivePokemonPieces(species, level, item, script, text)) {
-      write.Add(
-          {std::string(piece.name), piece.at, std::move(piece.bytes), std::string(kScriptField), form.Text3.text});
+    for (ScriptPiece& piece : gameReady ? GameReadyGivePokemonPieces(family, species, level, item, script, text, *typed)
+                                        : GivePokemonPieces(species, level, item, script, text)) {
+      const bool isQuestion = piece.name == kQuestion;
+      write.Add({std::string(piece.name), piece.at, std::move(piece.bytes),
+                 std::string(isQuestion ? kTextField : kScriptField), isQuestion ? form.Text12.text : form.Text3.text});
     }
-    write.Expect(question);
+    if (!gameReady) write.Expect(question);
   } catch (const Failure& failure) {
     throw write.Stopped(failure);
   }
-  write.CheckAndWrite();
-  AskAndWriteMessage(write, dialogs, kGiveMessageTitle, kGiveMessagePrompt, std::move(question));
+  if (!write.CheckAskAndWrite(dialogs)) return;
+  if (!gameReady &&
+      !AskAndWriteMessage(write, dialogs, kGiveMessageTitle, kGiveMessagePrompt, std::move(question), form.keptMessage)) {
+    return;
+  }
   dialogs.Hide(WindowName::Form5);
+}
+
+void PressFindScriptSpace(Form5& form, RomImage& rom, Dialogs& dialogs) {
+  PressFindFreeSpace(form.Text3, kScriptField, "the script", BlockLength(form), &form.Text12,
+                     std::ssize(BuilderMessageBytes(form.Check1, form.keptMessage)), rom, dialogs);
+}
+
+void PressFindTextSpace(Form5& form, RomImage& rom, Dialogs& dialogs) {
+  const std::optional<std::string> typed = AskMessage(dialogs, kGiveMessageTitle, kGiveMessagePrompt, form.keptMessage);
+  if (!typed) return;
+  PressFindFreeSpace(form.Text12, kTextField, kQuestion, std::ssize(BuilderMessageBytes(form.Check1, *typed)),
+                     &form.Text3, BlockLength(form), rom, dialogs);
 }
 
 }  // namespace tessarine

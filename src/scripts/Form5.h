@@ -33,6 +33,10 @@ struct Form5 {
   TextBox Text12{"&H000000"};
   Button Command1{"Insert Teh Script"};
   Label Label7{.visible = false};  // itemRecords of the open ROM, as the list was read from it
+  CheckBox Check1{kGameReadyCaption};  // unticked at each opening
+  Button Command2{kFindFreeSpaceCaption};  // beside Text3
+  Button Command3{kFindFreeSpaceCaption};  // beside Text12
+  std::string keptMessage;  // hidden: the question last typed, the next input box's text
 
   // The Open ROM after which the lists were read.
   FilledAt filled;
@@ -57,10 +61,23 @@ void SetCombo3Selection(Form5& form, int index);  // Text1
 void SetCombo2Selection(Form5& form, int index);  // Text2
 
 // "Insert Teh Script": parses Text12, Text2, Text1, pkmntxt and Text3 and asks the write
-// rule (forms/WriteRule.h) for the block and the question's place, before anything is
-// written. Then writes the block, asks for the question, writes it at Text12 and closes
-// the form, with no message. A failure before the first write leaves the ROM and the form
-// as they were; one after it says what was written.
+// rule (forms/WriteRule.h) for the block and the question's place, and the free-space
+// question for the block, before anything is written. Then writes the block, asks for the
+// question, puts it to the free-space question, writes it at Text12 and closes the form,
+// with no message. A failure or No before the first write leaves the ROM and the form as
+// they were; one after it says what was written.
+//
+// With Check1 ticked the block is game-ready (GameReadyGivePokemonPieces) and all or
+// nothing: a game without a family is refused first; then the question is asked (Cancel
+// stops), the fields parsed, every piece checked (none may overlap another), the one
+// free-space question asked, and all written.
 void InsertGivePokemon(Form5& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
+
+// "Find Free Space" beside Text3: free space for the whole block of the mode Check1 selects,
+// kept clear of the question at Text12. Beside Text12: asks for the question in the insert's
+// input box (Cancel stops), keeps it for the insert, and finds free space for its bytes, kept
+// clear of the block at Text3.
+void PressFindScriptSpace(Form5& form, RomImage& rom, Dialogs& dialogs);
+void PressFindTextSpace(Form5& form, RomImage& rom, Dialogs& dialogs);
 
 }  // namespace tessarine

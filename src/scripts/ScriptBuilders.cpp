@@ -1,5 +1,7 @@
 #include "scripts/ScriptBuilders.h"
 
+#include "rom/Failure.h"
+#include "rom/GameProfile.h"
 #include "rom/RomImage.h"
 #include "text/Table2Text.h"
 
@@ -49,6 +51,27 @@ Bytes MessageBranch(RomOffset scriptOffset, int textAt) {
       .Take();
 }
 
+// Set up the wild battle, wait for sound, cry in mode 2, wait for the cry, start the battle,
+// release, end: the tail of both game-ready wild battle scripts.
+ScriptBytes& GameReadyBattle(ScriptBytes& script, std::int16_t species, std::uint8_t level, std::int16_t item,
+                             std::int16_t cry) {
+  script.Byte(0xB6).Word(species).Byte(level).Word(item).Byte(0x30);
+  return script.Byte(0xA1).Word(cry).Word(0x0002).Byte(0xC5).Byte(0xB7).Byte(0x6C).Byte(0x02);
+}
+
+// Show the text at `text` (bank 0) in a box of kind `box`.
+ScriptBytes& ShowText(ScriptBytes& script, RomOffset text, std::uint8_t box) {
+  return script.Byte(0x0F).Byte(0x00).Pointer(text).Byte(0x09).Byte(box);
+}
+
+// The game-ready give-Pokemon block, piece by piece, at distances from S.
+constexpr int kGrDeclinedBranchAt = 65;
+constexpr int kGrNoRoomBranchAt = 75;
+constexpr int kGrDeclinedTextAt = 85;
+constexpr int kGrNoRoomTextAt = 121;
+constexpr std::int16_t kLastTalked = static_cast<std::int16_t>(0x800F);
+constexpr std::int16_t kResult = static_cast<std::int16_t>(0x800D);
+
 }  // namespace
 
 Bytes BuildWildBattleScript(std::int16_t species, std::uint8_t level, std::int16_t item, std::int16_t cry) {
@@ -95,6 +118,67 @@ std::vector<ScriptPiece> GivePokemonPieces(std::int16_t species, std::uint8_t le
   pieces.push_back({"the declined text", at(kDeclinedTextAt), EncodeMessageText(kDeclinedText)});
   pieces.push_back({"the no-room text", at(kNoRoomTextAt), EncodeMessageText(kNoRoomText)});
   return pieces;
+}
+
+Bytes BuildGameReadyWildBattleScript(std::int16_t species, std::uint8_t level, std::int16_t item, std::int16_t cry) {
+  ScriptBytes script;
+  script.Byte(0x6A).Byte(0x5A);
+  return GameReadyBattle(script, species, level, item, cry).Take();
+}
+
+Bytes BuildGameReadyWildBattleMessageScript(std::int16_t species, std::uint8_t level, std::int16_t item,
+                                            std::int16_t cry, RomOffset textOffset) {
+  ScriptBytes script;
+  script.Byte(0x6A).Byte(0x5A);
+  ShowText(script, textOffset, 0x04);
+  return GameReadyBattle(script, species, level, item, cry).Take();
+}
+
+std::int16_t GameReadyGiveFanfare(std::string_view family) {
+  if (family == kFamilyRs || family == kFamilyE) return 0x0172;
+  if (family == kFamilyFrlg) return 0x0101;
+  throw Failure("A game-ready give-Pokemon script plays the fanfare of its game's family (&H172 in Ruby, Sapphire "
+                "and Emerald, &H101 in FireRed and LeafGreen), and the open ROM is none of these games. Untick "
+                "\"Game-ready script\" to write the form's own layout.");
+}
+
+std::vector<ScriptPiece> GameReadyGivePokemonPieces(std::string_view family, std::int16_t species, std::uint8_t level,
+                                                    std::int16_t item, RomOffset scriptOffset, RomOffset textOffset,
+                                                    std::string_view question) {
+  const std::int16_t fanfare = GameReadyGiveFanfare(family);
+  const auto at = [scriptOffset](int distance) { return OffsetPlus(scriptOffset, distance); };
+  ScriptBytes body;
+  body.Byte(0x69);                                   // lock all
+  ShowText(body, textOffset, 0x05);                  // the question, yes or no
+  body.Byte(0x21).Word(kResult).Word(0x0000)         // no: to the declined branch
+      .Byte(0x06).Byte(0x01).Pointer(at(kGrDeclinedBranchAt))
+      .Byte(0x43)                                    // count the party; 6: to the no-room branch
+      .Byte(0x21).Word(kResult).Word(0x0006)
+      .Byte(0x06).Byte(0x01).Pointer(at(kGrNoRoomBranchAt))
+      .Byte(0x19).Word(static_cast<std::int16_t>(0x8004)).Word(kResult)
+      .Byte(0x53).Word(kLastTalked)                  // the person talked to goes
+      .Byte(0x31).Word(fanfare).Byte(0x32)
+      .Byte(0x79).Word(species).Byte(level).Word(item).Zeros(9)
+      .Byte(0x7D).Byte(0x01).Word(species)           // the species' name into string buffer 1
+      .Byte(0x6B).Byte(0x02);                        // release all, end
+  const auto branch = [&](int textAt) {
+    ScriptBytes script;
+    return ShowText(script, at(textAt), 0x04).Byte(0x6B).Byte(0x02).Take();
+  };
+  std::vector<ScriptPiece> pieces;
+  pieces.push_back({"the body", scriptOffset, body.Take()});
+  pieces.push_back({"the declined branch", at(kGrDeclinedBranchAt), branch(kGrDeclinedTextAt)});
+  pieces.push_back({"the no-room branch", at(kGrNoRoomBranchAt), branch(kGrNoRoomTextAt)});
+  pieces.push_back({"the declined text", at(kGrDeclinedTextAt), GameReadyMessageBytes(kDeclinedText)});
+  pieces.push_back({"the no-room text", at(kGrNoRoomTextAt), GameReadyMessageBytes(kNoRoomText)});
+  pieces.push_back({"the question", textOffset, GameReadyMessageBytes(question)});
+  return pieces;
+}
+
+Bytes GameReadyMessageBytes(std::string_view message) {
+  Bytes bytes = EncodeMessageText(message);
+  bytes.push_back(0xFF);
+  return bytes;
 }
 
 Bytes MessageTextBytes(std::string_view message) {

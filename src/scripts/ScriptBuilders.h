@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -53,6 +54,36 @@ struct ScriptPiece {
 // no end byte: each runs on to the first 0xFF already in the ROM behind it.
 std::vector<ScriptPiece> GivePokemonPieces(std::int16_t species, std::uint8_t level, std::int16_t item,
                                            RomOffset scriptOffset, RomOffset textOffset);
+
+// Game-ready scripts: the same fields, laid out as the games' script engine reads them
+// (0x0F takes a text bank byte before its pointer, 0xA1 a cry mode word behind the cry, 0xB6
+// only sets up the battle that 0xB7 starts), so that the script runs in Ruby, Sapphire,
+// Emerald, FireRed and LeafGreen. Their texts end in one 0xFF.
+
+// lock, faceplayer, set up the wild battle, wait for sound, cry in mode 2, wait for the cry,
+// start the battle, release, end: 18 bytes.
+inline constexpr int kGameReadyWildBattleLength = 18;
+Bytes BuildGameReadyWildBattleScript(std::int16_t species, std::uint8_t level, std::int16_t item, std::int16_t cry);
+// lock, faceplayer, the message at textOffset in the default box, then the battle as above:
+// 26 bytes.
+inline constexpr int kGameReadyWildBattleMessageLength = 26;
+Bytes BuildGameReadyWildBattleMessageScript(std::int16_t species, std::uint8_t level, std::int16_t item,
+                                            std::int16_t cry, RomOffset textOffset);
+
+// The fanfare of a gift, by the game family: &H172 in Ruby, Sapphire and Emerald, &H101 in
+// FireRed and LeafGreen. Another family (a game without one) is a Failure that says so.
+std::int16_t GameReadyGiveFanfare(std::string_view family);
+
+// The game-ready give-Pokemon script: one block of 160 bytes at the script offset, its
+// pieces apart (the body, the declined branch, the no-room branch, the declined text, the
+// no-room text), and the question at the text offset.
+inline constexpr int kGameReadyGiveBlockLength = 160;
+std::vector<ScriptPiece> GameReadyGivePokemonPieces(std::string_view family, std::int16_t species, std::uint8_t level,
+                                                    std::int16_t item, RomOffset scriptOffset, RomOffset textOffset,
+                                                    std::string_view question);
+
+// A message as a game-ready script shows it: EncodeMessageText, then one 0xFF.
+Bytes GameReadyMessageBytes(std::string_view message);
 
 // A message text as stored: EncodeMessageText of what the person typed, then FF 00.
 Bytes MessageTextBytes(std::string_view message);

@@ -1,6 +1,9 @@
 #include "scripts/WildBattleForms.h"
 
+#include <algorithm>
+
 #include "forms/Dialogs.h"
+#include "forms/FreeSpace.h"
 #include "forms/WriteRule.h"
 #include "rom/Failure.h"
 #include "rom/HexField.h"
@@ -39,6 +42,24 @@ void Finish(WindowName window, Dialogs& dialogs) {
   dialogs.Hide(window);
 }
 
+// How many bytes each form's script takes in the mode its box selects.
+std::int64_t ScriptLength(const Form3& form) {
+  return form.Check1.checked ? kGameReadyWildBattleLength : std::ssize(BuildWildBattleScript(0, 0, 0, 0));
+}
+std::int64_t ScriptLength(const Form4& form) {
+  return form.Check1.checked ? kGameReadyWildBattleMessageLength
+                             : std::ssize(BuildWildBattleMessageScript(0, 0, 0, 0, 0));
+}
+
+// Upper-case ASCII letters, so that "mewtwo" names the row of "MEWTWO".
+std::string Folded(std::string_view text) {
+  std::string folded(text);
+  for (char& c : folded) c = (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
+  return folded;
+}
+
+constexpr std::string_view kRowNameAfter = " - ";
+
 }  // namespace
 
 void LoadWildBattleLists(WildBattleForm& form, const Form1& main, const std::vector<std::string>& itemRows) {
@@ -70,38 +91,87 @@ void SetCombo3Selection(Form4& form, int index) {
   form.Text14.text = ToHexText(index);
 }
 
+void PickTypedSpecies(WildBattleForm& form, Dialogs& dialogs) {
+  const std::string typed = Folded(form.Combo1.text);
+  const auto& rows = form.Combo1.rows;
+  auto row = std::ranges::find_if(rows, [&](const std::string& r) { return Folded(r) == typed; });
+  if (row == rows.end()) {
+    row = std::ranges::find_if(rows, [&](const std::string& r) {
+      const std::size_t at = r.find(kRowNameAfter);
+      return at != std::string::npos && Folded(r.substr(at + kRowNameAfter.size())) == typed;
+    });
+  }
+  if (row == rows.end()) {
+    dialogs.Message("No row of the Pokemon list is named \"" + form.Combo1.text +
+                    "\". Type a name as the list shows it (MEWTWO), or a whole row (096 - MEWTWO).");
+    return;
+  }
+  SetCombo1Selection(form, static_cast<int>(row - rows.begin()));
+}
+
 void InsertWildBattle(Form3& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
   RomWrite write(rom, main);
   write.From(form.filled, FilledBeforeLastOpen(kLoadAgain));
   try {
     const Battle b = ParseBattle(form, form.Text1);
     write.Add({std::string(kScriptPiece), ParseInsertOffset(form.Text3.text, kScriptField),
-               BuildWildBattleScript(b.species, b.level, b.item, b.cry), std::string(kScriptField), form.Text3.text});
+               form.Check1.checked ? BuildGameReadyWildBattleScript(b.species, b.level, b.item, b.cry)
+                                   : BuildWildBattleScript(b.species, b.level, b.item, b.cry),
+               std::string(kScriptField), form.Text3.text});
   } catch (const Failure& failure) {
     throw write.Stopped(failure);
   }
-  write.CheckAndWrite();
+  if (!write.CheckAskAndWrite(dialogs)) return;
   Finish(WindowName::Form3, dialogs);
 }
 
 void InsertWildBattle(Form4& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
   RomWrite write(rom, main);
   write.From(form.filled, FilledBeforeLastOpen(kLoadAgain));
-  WritePiece message{"the message", 0, MessageTextBytes(""), std::string(kTextField), form.Text12.text};
+  const bool gameReady = form.Check1.checked;
+  std::optional<std::string> typed;
+  if (gameReady) {
+    write.KeepApart().Check();  // a window that may not write says so before the question
+    typed = AskMessage(dialogs, kWildMessageTitle, kWildMessagePrompt, form.keptMessage);
+    if (!typed) return;
+  }
+  WritePiece message{"the message", 0, BuilderMessageBytes(form.Check1, typed.value_or("")), std::string(kTextField),
+                     form.Text12.text};
   try {
     const Battle b = ParseBattle(form, form.Text14);
     message.at = ParseInsertOffset(form.Text12.text, kTextField);
     const RomOffset script = ParseInsertOffset(form.Text3.text, kScriptField);
+    const auto text = static_cast<RomOffset>(message.at);
     write.Add({std::string(kScriptPiece), script,
-               BuildWildBattleMessageScript(b.species, b.level, b.item, b.cry, static_cast<RomOffset>(message.at)),
+               gameReady ? BuildGameReadyWildBattleMessageScript(b.species, b.level, b.item, b.cry, text)
+                         : BuildWildBattleMessageScript(b.species, b.level, b.item, b.cry, text),
                std::string(kScriptField), form.Text3.text});
-    write.Expect(message);
+    gameReady ? write.Add(message) : write.Expect(message);
   } catch (const Failure& failure) {
     throw write.Stopped(failure);
   }
-  write.CheckAndWrite();
-  AskAndWriteMessage(write, dialogs, kWildMessageTitle, kWildMessagePrompt, std::move(message));
+  if (!write.CheckAskAndWrite(dialogs)) return;
+  if (!gameReady &&
+      !AskAndWriteMessage(write, dialogs, kWildMessageTitle, kWildMessagePrompt, std::move(message), form.keptMessage)) {
+    return;
+  }
   Finish(WindowName::Form4, dialogs);
+}
+
+void PressFindScriptSpace(Form3& form, RomImage& rom, Dialogs& dialogs) {
+  PressFindFreeSpace(form.Text3, kScriptField, kScriptPiece, ScriptLength(form), nullptr, 0, rom, dialogs);
+}
+
+void PressFindScriptSpace(Form4& form, RomImage& rom, Dialogs& dialogs) {
+  PressFindFreeSpace(form.Text3, kScriptField, kScriptPiece, ScriptLength(form), &form.Text12,
+                     std::ssize(BuilderMessageBytes(form.Check1, form.keptMessage)), rom, dialogs);
+}
+
+void PressFindTextSpace(Form4& form, RomImage& rom, Dialogs& dialogs) {
+  const std::optional<std::string> typed = AskMessage(dialogs, kWildMessageTitle, kWildMessagePrompt, form.keptMessage);
+  if (!typed) return;
+  PressFindFreeSpace(form.Text12, kTextField, "the message", std::ssize(BuilderMessageBytes(form.Check1, *typed)),
+                     &form.Text3, ScriptLength(form), rom, dialogs);
 }
 
 }  // namespace tessarine

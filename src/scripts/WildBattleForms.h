@@ -35,6 +35,8 @@ struct WildBattleForm {
   Button Command1{"Insert Teh Script"};
   Button Command2{.visible = false};  // holds the copy of the species list
   Button Command3{.visible = false};  // holds the copy of the item list
+  CheckBox Check1{kGameReadyCaption};  // unticked at each opening
+  Button Command4{kFindFreeSpaceCaption};  // beside Text3
 
   // The Open ROM after which the lists were copied: an insert takes its numbers from rows
   // of the ROM that is open.
@@ -57,6 +59,8 @@ struct Form4 : WildBattleForm {
   Label Label6{"Text Offset:"};
   TextBox Text12{.text = "&H000000", .toolTip = "Type an offset to insert your new text for this event."};
   Label Label7{"Note: You will be prompted to type your custom message after you Click Insert."};
+  Button Command5{kFindFreeSpaceCaption};  // beside Text12
+  std::string keptMessage;  // hidden: the message last typed, the next input box's text
 };
 
 // The load: Command2 copies the species rows, Command3 empties Combo2 and copies the item
@@ -70,12 +74,31 @@ void SetCombo2Selection(WildBattleForm& form, int index);
 void SetCombo3Selection(Form3& form, int index);
 void SetCombo3Selection(Form4& form, int index);
 
+// Enter in Combo1, whose box takes typing: picks the row whose name (the text behind
+// "096 - ") or whole text is the typed text, in any case, as SetCombo1Selection does; or
+// says that no row is. Inserts nothing.
+void PickTypedSpecies(WildBattleForm& form, Dialogs& dialogs);
+
 // "Insert Teh Script". Form3 parses pkmntxt, Text1, crytxt, Text2, Text3; Form4 pkmntxt,
 // Text14, crytxt, Text2, Text12, Text3. Every parse, and the write rule (forms/WriteRule.h)
-// for each piece, comes before the first write, so a failure there writes nothing and
-// leaves the form as it was. Then the script goes to Text3; Form4 asks for the message and
-// writes it at Text12. "Inserted", and the form closes.
+// for each piece with its free-space question, comes before the first write, so a failure
+// there, or No, writes nothing and leaves the form as it was. Then the script goes to Text3;
+// Form4 asks for the message, puts it to the free-space question and writes it at Text12.
+// "Inserted", and the form closes.
+//
+// With Check1 ticked the script is game-ready (scripts/ScriptBuilders.h) and all or
+// nothing: Form4 asks for the message first (Cancel stops it), then parses, checks the
+// script and the message, which may not overlap, asks the one free-space question, and
+// writes both.
 void InsertWildBattle(Form3& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
 void InsertWildBattle(Form4& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
+
+// "Find Free Space" beside Text3: free space for the script of the mode Check1 selects,
+// kept clear of Form4's message at Text12. Beside Text12 (Form4): asks for the message in
+// the insert's input box (Cancel stops), keeps it for the insert, and finds free space for
+// its bytes, kept clear of the script at Text3. See PressFindFreeSpace (forms/FreeSpace.h).
+void PressFindScriptSpace(Form3& form, RomImage& rom, Dialogs& dialogs);
+void PressFindScriptSpace(Form4& form, RomImage& rom, Dialogs& dialogs);
+void PressFindTextSpace(Form4& form, RomImage& rom, Dialogs& dialogs);
 
 }  // namespace tessarine

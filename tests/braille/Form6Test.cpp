@@ -51,36 +51,38 @@ struct Inserter : test::MainSession {
 
 TEST(Form6Test, InsertWritesTheRecordAndItsScriptOrNothing) {
   constexpr Fields kZero = {"&H0", "&H0", "&H0", "&H0", "&H0", "&H0"};
+  using enum MessageAnswer;
   const struct {
     const char* name;
     Fields fields;
     const char* text;
     const char* braille;
     const char* script;
-    MessageAnswer answer;
+    std::deque<MessageAnswer> answers;  // to the question, then to the free-space question
     std::vector<std::pair<std::size_t, const char*>> writes;
     const char* failure;
     void (*before)(Inserter&) = nullptr;
   } rows[] = {
-      {"all zero, A", kZero, "A", "&H700000", "&H700100", MessageAnswer::Yes,
+      {"all zero, A", kZero, "A", "&H700000", "&H700100", {Yes, Yes},
        {{0x700000, "00 00 00 00 00 00 01 FF 00"}, {0x700100, "6A 5A 78 00 00 70 08 02"}}, ""},
-      {"lower case is blank", {"1", "2", "3", "4", "5", "31"}, "Hi", "&H7A0000", "&H700000", MessageAnswer::Yes,
+      {"lower case is blank", {"1", "2", "3", "4", "5", "31"}, "Hi", "&H7A0000", "&H700000", {Yes, Yes},
        {{0x700000, "6A 5A 78 00 00 7A 08 02"}, {0x7A0000, "01 02 03 04 05 1F 0D 00 FF 00"}}, ""},
-      {"line break and escape", kZero, "A\r\nB\\h02C'", "&H700000", "&H700100", MessageAnswer::Yes,
+      {"line break and escape", kZero, "A\r\nB\\h02C'", "&H700000", "&H700100", {Yes, Yes},
        {{0x700000, "00 00 00 00 00 00 01 FE 05 02 03 04 FF 00"}, {0x700100, "6A 5A 78 00 00 70 08 02"}}, ""},
-      {"answered No", kZero, "A", "&H700000", "&H700100", MessageAnswer::No, {}, ""},
-      {"fresh window", kBare, "A", "&H700000", "&H700100", MessageAnswer::Yes, {},
+      {"answered No", kZero, "A", "&H700000", "&H700100", {No}, {}, ""},
+      {"No to writing over what is not free space", kZero, "A", "&H700000", "&H700100", {Yes, No}, {}, ""},
+      {"fresh window", kBare, "A", "&H700000", "&H700100", {Yes}, {},
        "Postion.Left: \"&H\" is not a byte."},
-      {"bad script offset", kZero, "A", "&H700000", "&Hxyz", MessageAnswer::Yes, {}, "Script Offset: \"&Hxyz\""},
-      {"no pointer", kZero, "A", "&H78000000", "&H700100", MessageAnswer::Yes, {},
+      {"bad script offset", kZero, "A", "&H700000", "&Hxyz", {Yes}, {}, "Script Offset: \"&Hxyz\""},
+      {"no pointer", kZero, "A", "&H78000000", "&H700100", {Yes}, {},
        "Braille Offset: The offset &H78000000 cannot be a pointer"},
-      {"record past the end", kZero, "A", "&H7FFFF8", "&H700100", MessageAnswer::Yes, {},
+      {"record past the end", kZero, "A", "&H7FFFF8", "&H700100", {Yes}, {},
        "Braille Offset: \"&H7FFFF8\": the braille record, 9 bytes from &H7FFFF8, would run past the end"},
-      {"script before the start", kZero, "A", "&H700000", "&HFFFFFFF0", MessageAnswer::Yes, {},
+      {"script before the start", kZero, "A", "&H700000", "&HFFFFFFF0", {Yes}, {},
        "Script Offset: \"&HFFFFFFF0\" lies before the start of the ROM."},
-      {"script offset left at its start", kZero, "HELLO", "&H700000", "&H000000", MessageAnswer::Yes, {},
+      {"script offset left at its start", kZero, "HELLO", "&H700000", "&H000000", {Yes}, {},
        "Script Offset: \"&H000000\" lies inside the cartridge header, &H0 to &HBF, and would write over it."},
-      {"window of the ROM opened before", kZero, "A", "&H700000", "&H700100", MessageAnswer::Yes, {},
+      {"window of the ROM opened before", kZero, "A", "&H700000", "&H700100", {Yes}, {},
        "This window was filled before the last Open ROM", [](Inserter& i) { i.Open(i.fixture.path()); }},
   };
   for (const auto& row : rows) {
@@ -89,11 +91,16 @@ TEST(Form6Test, InsertWritesTheRecordAndItsScriptOrNothing) {
     inserter.Type(row.fields, row.text, row.braille, row.script);
     if (row.before) row.before(inserter);
     inserter.dialogs.messages.clear();
-    inserter.dialogs.messageAnswers = {row.answer};
+    inserter.dialogs.messageAnswers = row.answers;
     const ByteOracle oracle(inserter.fixture.path());
     const std::string failure = FailureOf([&] { inserter.Insert(); });
 
-    ASSERT_EQ(inserter.dialogs.messages.size(), 1u);  // the question, and nothing after it
+    // The question, and where all is parsed and in the file the free-space question; nothing after them.
+    const bool placed = *row.failure == '\0' && row.answers[0] == MessageAnswer::Yes;
+    ASSERT_EQ(inserter.dialogs.messages.size(), placed ? 2u : 1u);
+    if (placed) {
+      EXPECT_THAT(inserter.dialogs.messages[1].text, HasSubstr("bytes at &H70"));
+    }
     EXPECT_EQ(inserter.dialogs.messages[0].text, "Are you sure that you wan't to insert?");
     EXPECT_EQ(inserter.dialogs.messages[0].title, "Braille Inserted.");
     EXPECT_EQ(inserter.dialogs.messages[0].buttons, MessageButtons::YesNo);
@@ -110,6 +117,19 @@ TEST(Form6Test, InsertWritesTheRecordAndItsScriptOrNothing) {
     }
     EXPECT_EQ(oracle.Changes(), ranges);
   }
+}
+
+// Find Free Space: room for the record of the text typed (header, cells, FF 00) and for the script,
+// each clear of the other and of the filler at &H700000.
+TEST(Form6Test, FindFreeSpaceFindsRoomForTheRecordAndForTheScriptApart) {
+  Inserter inserter;
+  inserter.Type(kBare, "AB", "&H700000", "&H700010");
+  PressFindRecordSpace(inserter.form, inserter.rom, inserter.dialogs);  // 10 bytes: behind the script's 8 and an FF
+  EXPECT_EQ(inserter.form.Text2.text, "&H70001C");
+  inserter.form.Text3.text = "&H700018";
+  PressFindScriptSpace(inserter.form, inserter.rom, inserter.dialogs);
+  EXPECT_EQ(inserter.form.Text3.text, "&H700028");
+  EXPECT_TRUE(inserter.dialogs.messages.empty());
 }
 
 // What the window shows, in one line: the six fields, [the text], the frame and the text's corner.
@@ -146,7 +166,7 @@ TEST(Form6Test, LoadReadsTheRecordIntoTheFieldsAndApplies) {
 TEST(Form6Test, InsertThenLoadGivesCapitalsBackAndARefusedOffsetLoadsNothing) {
   Inserter inserter;
   inserter.Type({"31", "&H1F", "0", "5", "2", "3"}, "IT'S A\r\nTEST", "&H700000", "&H700100");
-  inserter.dialogs.messageAnswers = {MessageAnswer::Yes};
+  inserter.dialogs.messageAnswers = {MessageAnswer::Yes, MessageAnswer::Yes};
   inserter.Insert();
 
   Form6 loaded;

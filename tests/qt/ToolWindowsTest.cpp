@@ -75,7 +75,7 @@ class ToolWindowsTest : public ::testing::Test {
     EXPECT_NE(widget, nullptr) << name;
     return widget;
   }
-  void Click(const char* button) { QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton); }
+  void Click(const char* button) { QTest::mouseClick(Find<QAbstractButton>(button), Qt::LeftButton); }
   QString Text(const char* field) { return Find<QLineEdit>(field)->text(); }
   std::string At(const ByteOracle& oracle, std::size_t at, std::size_t count) {
     const Bytes now = oracle.Now();
@@ -210,6 +210,45 @@ TEST(ToolKeysTest, FieldsFitInALargeFontTabWalksThemInOrderAndEscClosesWithoutWr
   QApplication::setFont(font);
 }
 
+// Form4 by keyboard and mouse: Enter in the species box picks the row typed and inserts nothing; the
+// new controls follow Insert in the tab order; with the box ticked, the two Find Free Space buttons
+// (the text's asks for the message) lead to a game-ready insert whose box shows the message kept.
+TEST_F(ToolWindowsTest, Form4FindsFreeSpaceAndInsertsAGameReadyScript) {
+  test::FixtureRom fixture = BuilderRom();
+  fixture.PutBytes(0xC0, Bytes(0x40, 0x11));  // no free space until &H100
+  dialogs.messageAnswers = {MessageAnswer::Yes};
+  dialogs.inputAnswers = {"AB", "AB"};
+  ASSERT_TRUE(Open(fixture, MenuEntry::mnuwbs, WindowName::Form4));
+  const ByteOracle oracle(fixture.path());
+  auto* species = Find<QComboBox>("Combo1");
+  species->lineEdit()->selectAll();
+  QTest::keyClicks(species, "pimdor");
+  QTest::keyClick(species, Qt::Key_Return);
+  EXPECT_EQ(species->currentIndex(), 0x19);
+  EXPECT_EQ(Text("pkmntxt") + Text("crytxt"), "&H19&H19");
+
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+  Find("Text12")->setFocus();
+  std::string order;
+  for (int i = 0; i < 4; ++i) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    order += QApplication::focusWidget()->objectName().toStdString() + " ";
+  }
+  EXPECT_EQ(order, "Command1 Check1 Command4 Command5 ");
+
+  Click("Check1");
+  Click("Command5");
+  Click("Command4");
+  EXPECT_EQ(Text("Text12") + " " + Text("Text3"), "&H100 &H104");  // the script behind the text and an FF
+  Click("Command1");
+  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{0x100, 2}, {0x104, 26}}));
+  EXPECT_EQ(At(oracle, 0x100, 14), "BB BC FF FF 6A 5A 0F 00 00 01 00 08 09 04");
+  ASSERT_EQ(dialogs.inputs.size(), 2u);
+  EXPECT_EQ(dialogs.inputs[1].initial, "AB");
+  EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("You wan't a Message in your event script?", "Inserted"));
+}
+
 TEST_F(ToolWindowsTest, Form2SavesWhatIsPickedAndDoneClosesWithoutWriting) {
   test::FixtureRom fixture = test::EventFixtureRom("AXVE");
   fixture.PutWord(0x3F76C4, 0x115).PutWord(0x3F76C6, 0x118).PutWord(0x3F76C8, 0x11B);
@@ -298,7 +337,7 @@ TEST_F(ToolWindowsTest, Form6InsertsLoadsAndPreviewsABrailleRecord) {
 
   Type(Find<QLineEdit>("Text2"), "&H700000");
   Type(Find<QLineEdit>("Text3"), "&H700100");
-  dialogs.messageAnswers = {MessageAnswer::Yes};
+  dialogs.messageAnswers = {MessageAnswer::Yes, MessageAnswer::Yes};  // and write over what is not free space
   const ByteOracle oracle(fixture.path());
   Click("Command1");
   EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 12}, {kS + 0x100, 8}}));

@@ -7,8 +7,11 @@
 #include <array>
 #include <functional>
 
+#include "forms/FreeSpace.h"
+#include "forms/ListRows.h"
 #include "rom/HexField.h"
 #include "scripts/Form5.h"
+#include "scripts/ScriptBuilders.h"
 #include "scripts/WildBattleForms.h"
 #include "support/ByteOracle.h"
 #include "support/Failures.h"
@@ -161,12 +164,12 @@ constexpr std::size_t kT = 0x7A0000;  // text offset
 // A ROM whose free space at kS and kT holds 0x11, so that every byte a builder writes
 // there shows as a change, and forms filled in as a person would.
 struct Builder : test::MainSession {
-  test::FixtureRom fixture = test::FixtureRom::Sapphire();
+  test::FixtureRom fixture;
   Form3 form3;
   Form4 form4;
   Form5 form5;
 
-  Builder() {
+  explicit Builder(test::FixtureRom rom = test::FixtureRom::Sapphire()) : fixture(std::move(rom)) {
     fixture.PutBytes(kS, Bytes(0x100, 0x11)).PutBytes(kT, Bytes(0x10, 0x11));
     Open(fixture.path());
     const auto fill = [this](auto& form, int species, int item) {
@@ -187,6 +190,7 @@ struct Builder : test::MainSession {
   void Insert(Form3& f) { InsertWildBattle(f, form, rom, dialogs); }
   void Insert(Form4& f) { InsertWildBattle(f, form, rom, dialogs); }
   void Insert(Form5& f) { InsertGivePokemon(f, form, rom, dialogs); }
+  void Insert(int which) { which == 3 ? Insert(form3) : which == 4 ? Insert(form4) : Insert(form5); }
   std::string At(const ByteOracle& oracle, std::size_t at, std::size_t count) const {
     const Bytes now = oracle.Now();
     return test::ToHex(Bytes(now.begin() + static_cast<long>(at), now.begin() + static_cast<long>(at + count)));
@@ -198,11 +202,15 @@ struct Builder : test::MainSession {
 
 TEST(ScriptBuildersTest, AWildBattleIsThirteenBytesAndListsAsFiveLines) {
   Builder b;
+  b.dialogs.messageAnswers = {MessageAnswer::Yes};
   const ByteOracle oracle(b.fixture.path());
   b.Insert(b.form3);
   EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 13}}));
   EXPECT_EQ(b.At(oracle, kS, 13), "6A 5A B6 19 00 05 00 00 30 A1 19 00 02");
-  EXPECT_THAT(b.dialogs.MessageTexts(), ElementsAre("Inserted"));
+  EXPECT_THAT(b.dialogs.MessageTexts(),
+              ElementsAre("The 13 bytes at &H700000 are not free space: 13 of them are not FF. Write over them?",
+                          "Inserted"));
+  EXPECT_EQ(b.dialogs.messages[0].buttons, MessageButtons::YesNo);
   EXPECT_THAT(b.dialogs.windowEvents, ElementsAre(ScriptedDialogs::WindowEvent{WindowName::Form3, false}));
   EXPECT_EQ(b.List(kS), "lock \r\nfaceplayer \r\nwildpkmnbattle: &H19 &H5 &H0\r\ncry  &H19\r\nend \r\n");
 }
@@ -212,6 +220,7 @@ TEST(ScriptBuildersTest, AWildBattleWithAMessageWritesTheScriptThenAsksThenWrite
     Builder b;
     b.form4.crytxt.text = "&HFFFF";  // typed over the list's number
     b.dialogs.inputAnswers = {answer};
+    b.dialogs.messageAnswers = {MessageAnswer::Yes, MessageAnswer::Yes};  // the script's place, then the text's
     const ByteOracle oracle(b.fixture.path());
     b.Insert(b.form4);
     EXPECT_EQ(b.At(oracle, kS, 20), "6A 5A 0F 00 00 7A 08 09 06 B6 19 00 05 8B 00 30 A1 FF FF 02");
@@ -220,7 +229,9 @@ TEST(ScriptBuildersTest, AWildBattleWithAMessageWritesTheScriptThenAsksThenWrite
     ASSERT_EQ(b.dialogs.inputs.size(), 1u);
     EXPECT_EQ(b.dialogs.inputs[0].title, "Wild Pokemon Message");
     EXPECT_EQ(b.dialogs.inputs[0].prompt, "Type the Message you would like your Event to have. [N] = Next Line");
-    EXPECT_THAT(b.dialogs.MessageTexts(), ElementsAre("Inserted"));
+    EXPECT_THAT(b.dialogs.MessageTexts(), ElementsAre(HasSubstr("The 20 bytes at &H700000"),
+                                                      HasSubstr(answer ? "The 4 bytes at &H7A0000" : "The 2 bytes"),
+                                                      "Inserted"));
     EXPECT_EQ(b.List(kS), "lock \r\nfaceplayer \r\nmsgbox  &H87A0\r\nboxset &H6\r\nwildpkmnbattle: &H19 &H8B05 &H0\r\n"
                           "cry  &HFFFF\r\nend \r\n");
   }
@@ -229,6 +240,7 @@ TEST(ScriptBuildersTest, AWildBattleWithAMessageWritesTheScriptThenAsksThenWrite
 TEST(ScriptBuildersTest, AGivePokemonBlockOverlapsAsLaidOutAndEachPointerHoldsItsPiece) {
   Builder b;
   b.dialogs.inputAnswers = {"AB"};
+  b.dialogs.messageAnswers = {MessageAnswer::Yes, MessageAnswer::Yes};
   const ByteOracle oracle(b.fixture.path());
   b.Insert(b.form5);
   // The body's last two bytes are the declined branch's first two; the gaps keep their bytes;
@@ -243,7 +255,10 @@ TEST(ScriptBuildersTest, AGivePokemonBlockOverlapsAsLaidOutAndEachPointerHoldsIt
   EXPECT_EQ(b.At(oracle, kS + 103, 15), "FD 01 00 E0 D9 DA E8 00 E8 DC CE DC D9 E6 D9");
   EXPECT_EQ(b.At(oracle, kS + 149, 3), "C8 AD 11");  // "N." and no end byte of its own
   EXPECT_EQ(b.At(oracle, kT, 4), "BB BC FF 00");
-  EXPECT_THAT(b.dialogs.messages, IsEmpty());
+  EXPECT_THAT(b.dialogs.MessageTexts(),  // the block's three runs, then the question's place; no "Inserted"
+              ElementsAre("The 83 bytes at &H700000, the 9 bytes at &H70005D and the 48 bytes at &H700067 are not "
+                          "free space: 140 of them are not FF. Write over them?",
+                          HasSubstr("The 4 bytes at &H7A0000")));
   EXPECT_THAT(b.dialogs.windowEvents, ElementsAre(ScriptedDialogs::WindowEvent{WindowName::Form5, false}));
   ASSERT_EQ(b.dialogs.inputs.size(), 1u);
   EXPECT_EQ(b.dialogs.inputs[0].title, "Give Pokemon Message");
@@ -254,6 +269,119 @@ TEST(ScriptBuildersTest, AGivePokemonBlockOverlapsAsLaidOutAndEachPointerHoldsIt
                         "compare  &H800D &H6\r\nif \r\nByte: &H19 \r\ncall &HD80\r\nend \r\n");
   EXPECT_EQ(b.List(kS + 74), "msgbox  &H87067\r\n" + branch);  // where the first "if" leads
   EXPECT_EQ(b.List(kS + 93), "msgbox  &H87071\r\n" + branch);  // where the second leads
+}
+
+// The game-ready layouts from the same fields, on the example battle and a second one (species &H96,
+// level 70, item &H8B, cry &HFFFF, message "A"), in a Sapphire and a FireRed ROM: after the one
+// question (asked once the message is typed) every piece is written, and nothing else.
+TEST(ScriptBuildersTest, GameReadyScriptsAreLaidOutAsTheGamesRunThem) {
+  const auto give = [](std::string fanfare, std::string battle, std::string species) {
+    return "69 0F 00 00 00 7A 08 09 05 21 0D 80 00 00 06 01 41 00 70 08 43 21 0D 80 06 00 06 01 4B 00 70 08 19 04 80 "
+           "0D 80 53 0F 80 31 " + fanfare + " 32 79 " + battle + " 00 00 00 00 00 00 00 00 00 7D 01 " + species +
+           " 6B 02 0F 00 55 00 70 08 09 04 6B 02 0F 00 79 00 70 08 09 04 6B 02 FD 01 00 E0 D9 DA E8";  // the declined text
+  };
+  const struct {
+    int form;
+    bool fireRed, second;
+    std::string atS;
+    const char* atT;
+    std::vector<ByteRange> changes;
+  } rows[] = {
+      {3, false, false, "6A 5A B6 19 00 05 00 00 30 A1 19 00 02 00 C5 B7 6C 02", "11", {{kS, 18}}},
+      {3, true, true, "6A 5A B6 96 00 46 8B 00 30 A1 FF FF 02 00 C5 B7 6C 02", "11", {{kS, 18}}},
+      {4, false, false, "6A 5A 0F 00 00 00 7A 08 09 04 B6 19 00 05 8B 00 30 A1 19 00 02 00 C5 B7 6C 02", "BB BC FF 11",
+       {{kS, 26}, {kT, 3}}},
+      {4, true, true, "6A 5A 0F 00 00 00 7A 08 09 04 B6 96 00 46 8B 00 30 A1 FF FF 02 00 C5 B7 6C 02", "BB FF 11",
+       {{kS, 26}, {kT, 2}}},
+      {5, false, false, give("72 01", "76 01 05 00 00", "76 01"), "BB BC FF 11", {{kS, 160}, {kT, 3}}},
+      {5, true, true, give("01 01", "96 00 46 8B 00", "96 00"), "BB FF 11", {{kS, 160}, {kT, 2}}},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.atS);
+    Builder b(row.fireRed ? test::FixtureRom::FireRed() : test::FixtureRom::Sapphire());
+    b.form3.Check1.checked = b.form4.Check1.checked = b.form5.Check1.checked = true;
+    if (row.second) {
+      for (TextBox* box : {&b.form3.pkmntxt, &b.form4.pkmntxt, &b.form5.pkmntxt}) box->text = "&H96";
+      for (TextBox* box : {&b.form3.Text1, &b.form4.Text14, &b.form5.Text1}) box->text = "&H46";
+      for (TextBox* box : {&b.form3.Text2, &b.form4.Text2, &b.form5.Text2}) box->text = "&H8B";
+      b.form3.crytxt.text = b.form4.crytxt.text = "&HFFFF";
+    }
+    b.dialogs.inputAnswers = {row.second ? "A" : "AB"};
+    b.dialogs.messageAnswers = {MessageAnswer::Yes};
+    const ByteOracle oracle(b.fixture.path());
+    b.Insert(row.form);
+    EXPECT_EQ(oracle.Changes(), row.changes);
+    const std::size_t n = test::FromHex(row.atS).size();
+    EXPECT_EQ(b.At(oracle, kS, n), row.atS);
+    EXPECT_EQ(b.At(oracle, kT, test::FromHex(row.atT).size()), row.atT);
+    if (row.form == 5) {  // each text ends in its own FF, the declined one just before the no-room text
+      EXPECT_EQ(b.At(oracle, kS + 119, 2) + " | " + b.At(oracle, kS + 157, 3), "AD FF | C8 AD FF");
+      EXPECT_EQ(GameReadyGivePokemonPieces("e", 1, 2, 3, kS, kT, "Q")[0].bytes,  // Emerald plays Ruby's fanfare
+                GameReadyGivePokemonPieces("rs", 1, 2, 3, kS, kT, "Q")[0].bytes);
+    }
+    EXPECT_EQ(b.dialogs.inputs.size(), row.form == 3 ? 0u : 1u);
+    EXPECT_EQ(b.dialogs.messages.size(), row.form == 5 ? 1u : 2u);  // the question, and "Inserted"
+  }
+}
+
+// The one free-space question (No is its default), and the refusals of a game-ready script, with
+// six bytes of FF at the start of the script's place: what is asked, written and said.
+TEST(ScriptBuildersTest, NoToTheFreeSpaceQuestionWritesNothingOrSaysWhatWasWritten) {
+  using enum MessageAnswer;
+  const struct {
+    const char* road;
+    int form;
+    bool gameReady;
+    std::deque<MessageAnswer> answers;
+    std::vector<::testing::Matcher<std::string>> asked;
+    std::vector<ByteRange> changes;
+    const char* failure = "";
+    std::function<void(Builder&)> set = {};
+    std::size_t inputs = 1;
+  } rows[] = {
+      {"game-ready, No", 3, true, {No},
+       {"The 18 bytes at &H700000 are not free space: 12 of them are not FF. Write over them?"}, {}, "", {}, 0},
+      {"game-ready, both places in one question", 4, true, {No},
+       {"The 26 bytes at &H700000 and the 3 bytes at &H7A0000 are not free space: 23 of them are not FF. Write over "
+        "them?"}, {}},
+      {"own layout, No to the message's place", 4, false, {Yes, No},
+       {"The 20 bytes at &H700000 are not free space: 14 of them are not FF. Write over them?",
+        "The 4 bytes at &H7A0000 are not free space: 4 of them are not FF. Write over them?"},
+       {{kS, 20}},
+       "You chose not to write over the bytes that are not free space. Written before it stopped: 20 bytes at "
+       "&H700000 (the script). Not written: 4 bytes at &H7A0000 (the message)."},
+      {"own layout, No to the block", 5, false, {No}, {HasSubstr("134 of them are not FF")}, {}, "", {}, 0},
+      {"game-ready, over free space: no question", 5, true, {}, {}, {{kS + 0x200, 120}, {kS + 0x279, 38}, {kT + 0x100, 2}},
+       "", [](Builder& b) { b.form5.Text3.text = "&H700200", b.form5.Text12.text = "&H7A0100"; }},
+      {"a script over its own message", 4, true, {}, {}, {},
+       "Offset: \"&H700000\": the script, 26 bytes from &H700000, and Text Offset: \"&H700010\": the message, 3 bytes "
+       "from &H700010, would share bytes", [](Builder& b) { b.form4.Text12.text = "&H700010"; }},
+      {"cancelled message", 4, true, {}, {}, {}, "", [](Builder& b) { b.dialogs.inputAnswers = {std::nullopt}; }},
+      {"a game of no family", 5, true, {}, {}, {}, "the open ROM is none of these games. Untick \"Game-ready script\"",
+       [](Builder& b) {  // Japanese Emerald
+         b.fixture.PutBytes(0xAC, test::FromHex("42 50 45 4A")), b.Open(b.fixture.path()), b.form5.filled.Fill(b.form);
+         b.dialogs = ScriptedDialogs();
+       }, 0},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.road);
+    Builder b;
+    b.fixture.PutBytes(kS, Bytes(6, 0xFF));
+    b.form3.Check1.checked = b.form4.Check1.checked = b.form5.Check1.checked = row.gameReady;
+    b.dialogs.inputAnswers = {"AB"};
+    if (row.set) row.set(b);
+    b.dialogs.messageAnswers = row.answers;
+    const ByteOracle oracle(b.fixture.path());
+    const std::string failure = FailureOf([&] { b.Insert(row.form); });
+    EXPECT_THAT(failure, HasSubstr(row.failure));
+    EXPECT_EQ(oracle.Changes(), row.changes);
+    std::vector<std::string> asked = b.dialogs.MessageTexts();
+    std::erase(asked, "Inserted");
+    EXPECT_THAT(asked, ::testing::ElementsAreArray(row.asked));
+    EXPECT_EQ(b.dialogs.inputs.size(), row.inputs);
+    const bool closed = !row.changes.empty() && *row.failure == '\0';  // only once all is written
+    EXPECT_EQ(b.dialogs.windowEvents.size(), closed ? 1u : 0u);
+  }
 }
 
 // Each case an insert that must write nothing: what is wrong, which form, what is said.
@@ -308,6 +436,7 @@ TEST(ScriptBuildersTest, AMessageThatDoesNotFitIsRefusedAfterTheScriptAndSaysSo)
   Builder b;
   b.form4.Text12.text = "&HFFFFFD";  // room for FF 00, not for "AB" and FF 00
   b.dialogs.inputAnswers = {"AB"};
+  b.dialogs.messageAnswers = {MessageAnswer::Yes};
   const ByteOracle oracle(b.fixture.path());
   EXPECT_EQ(FailureOf([&] { b.Insert(b.form4); }),
             "Text Offset: \"&HFFFFFD\": the message, 4 bytes from &HFFFFFD, would run past the end of the ROM, "
@@ -315,6 +444,109 @@ TEST(ScriptBuildersTest, AMessageThatDoesNotFitIsRefusedAfterTheScriptAndSaysSo)
             "written: 4 bytes at &HFFFFFD (the message).");
   EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 20}}));
   EXPECT_THAT(b.dialogs.windowEvents, IsEmpty());  // the form stays open
+}
+
+// Runs of FF in a ROM of 00 bytes: the finder takes the first multiple of 4 at or after the start
+// (never in the header) that has the length and one FF more; the file's search reads in blocks of a
+// MiB, so a run across the end of the first block is found all the same.
+TEST(FreeSpaceTest, FindsTheFirstAlignedRunWithOneFFBehind) {
+  const struct {
+    std::vector<std::pair<std::size_t, std::size_t>> runs;  // where, how long
+    std::int64_t from, length;
+    std::optional<RomOffset> found;
+    std::size_t size = 0x200;
+  } rows[] = {
+      {{{0xC0, 8}}, 0, 8, std::nullopt},                   // one byte too short
+      {{{0xC0, 8}, {0x100, 9}}, 0, 8, 0x100},              // so the next is taken
+      {{{0xC1, 12}}, 0, 8, 0xC4},                          // from its first multiple of 4
+      {{{0x1F7, 9}}, 0, 8, std::nullopt},                  // too short once aligned
+      {{{0x1F0, 16}}, 0x1F1, 8, 0x1F4},                    // the last place there is
+      {{{0xC0, 0x140}}, 0x1FC, 3, 0x1FC},                  // the very end of the file
+      {{{0x00, 0x200}}, 0, 8, 0xC0},                       // never in the header
+      {{{0x00, 0x200}}, 0x101, 0, 0x104},                  // length 0 takes one FF
+      {{}, 0, 0, std::nullopt},
+      {{{0x1000A0, 0x40}}, 0xC0, 0x30, 0x1000A0, 0x300000},  // across the first block's end
+  };
+  for (const auto& row : rows) {
+    test::FixtureRom fixture("AXPE", row.size);
+    fixture.PutBytes(0xC0, Bytes(row.size - 0xC0, 0x00));
+    for (const auto& [at, length] : row.runs) fixture.PutBytes(at, Bytes(length, 0xFF));
+    RomImage rom;
+    rom.Open(fixture.path());
+    EXPECT_EQ(FindFreeSpace(fixture.image(), row.from, row.length), row.found) << row.from << " " << row.length;
+    EXPECT_EQ(FindFreeSpace(rom, row.from, row.length), row.found) << row.from << " " << row.length;
+  }
+}
+
+// The "Find Free Space" buttons: each puts the first place for its piece into its field, clear of the
+// form's other piece; one beside a text field asks for the message first and keeps it for the insert.
+TEST(FreeSpaceTest, EachButtonFindsRoomForItsPieceOrSaysThereIsNone) {
+  const struct {
+    const char* button;
+    std::function<void(Builder&)> press;
+    std::function<std::string(Builder&)> field;
+    const char* shows;
+    const char* said = "";
+  } rows[] = {
+      {"Form3 script", [](Builder& b) { PressFindScriptSpace(b.form3, b.rom, b.dialogs); },
+       [](Builder& b) { return b.form3.Text3.text; }, "&H700100"},
+      {"Form4 text", [](Builder& b) { PressFindTextSpace(b.form4, b.rom, b.dialogs); },
+       [](Builder& b) { return b.form4.Text12.text + b.form4.keptMessage; }, "&H7A0010AB"},
+      {"Form4 script clear of its text",
+       [](Builder& b) { b.form4.Text12.text = "&H700100", PressFindScriptSpace(b.form4, b.rom, b.dialogs); },
+       [](Builder& b) { return b.form4.Text3.text; }, "&H700104"},  // behind FF 00 and one FF
+      {"Form5 game-ready block clear of its question",
+       [](Builder& b) {
+         b.form5.Check1.checked = true, b.form5.Text12.text = "&H700180";
+         PressFindScriptSpace(b.form5, b.rom, b.dialogs);
+       },
+       [](Builder& b) { return b.form5.Text3.text; }, "&H700184"},
+      {"Form5 question", [](Builder& b) { PressFindTextSpace(b.form5, b.rom, b.dialogs); },
+       [](Builder& b) { return b.form5.Text12.text; }, "&H7A0010"},
+      {"none", [](Builder& b) { b.form3.Text3.text = "&HFFFFF4", PressFindScriptSpace(b.form3, b.rom, b.dialogs); },
+       [](Builder& b) { return b.form3.Text3.text; }, "&HFFFFF4",
+       "Offset: no free space at or after &HFFFFF4 holds the script (13 bytes of FF and one more behind them). The "
+       "field keeps its text."},
+      {"cancelled", [](Builder& b) { b.dialogs.inputAnswers = {std::nullopt}, PressFindTextSpace(b.form4, b.rom, b.dialogs); },
+       [](Builder& b) { return b.form4.Text12.text; }, "&H7A0000"},
+  };
+  for (const auto& row : rows) {
+    Builder b;
+    b.dialogs.inputAnswers = {"AB"};
+    const ByteOracle oracle(b.fixture.path());
+    row.press(b);
+    EXPECT_EQ(row.field(b), row.shows) << row.button;
+    EXPECT_EQ(b.dialogs.MessageTexts(), *row.said ? std::vector<std::string>{row.said} : std::vector<std::string>{})
+        << row.button;
+    EXPECT_THAT(oracle.Changes(), IsEmpty());
+  }
+  Builder b;  // the insert shows the message kept by the button; a field that is no offset is named
+  b.dialogs.inputAnswers = {"AB", "AB"};
+  b.dialogs.messageAnswers = {MessageAnswer::Yes};  // over the script's place
+  PressFindTextSpace(b.form4, b.rom, b.dialogs);
+  b.Insert(b.form4);
+  ASSERT_EQ(b.dialogs.inputs.size(), 2u);
+  EXPECT_EQ(b.dialogs.inputs[0].initial + "|" + b.dialogs.inputs[1].initial, "|AB");
+  b.form3.Text3.text = "xyz";
+  EXPECT_THAT(FailureOf([&] { PressFindScriptSpace(b.form3, b.rom, b.dialogs); }), HasSubstr("Offset: \"xyz\""));
+}
+
+// Enter in the species box picks the row named by what was typed, and only that.
+TEST(ScriptBuildersTest, EnterInTheSpeciesBoxPicksTheRowTyped) {
+  const std::pair<const char*, int> rows[] = {
+      {"MEWTWO", 150}, {"mewtwo", 150}, {"096 - MEWTWO", 150}, {"096 - mewTwo", 150}, {"MEW", 151},
+      {"MEWT", -1},    {"096", -1},     {"", -1},             {"Select a Pokemon", -1},
+  };
+  for (const auto& [typed, row] : rows) {
+    Form3 form;
+    for (int i = 0; i < 412; ++i) form.Combo1.rows.push_back(NumberedRow(i, i == 150 ? "MEWTWO" : i == 151 ? "MEW" : "?"));
+    form.Combo1.text = typed;
+    ScriptedDialogs ui;
+    PickTypedSpecies(form, ui);
+    EXPECT_EQ(form.Combo1.selected, row) << typed;
+    EXPECT_EQ(form.pkmntxt.text, row < 0 ? "&H0000" : ToHexText(row)) << typed;
+    EXPECT_EQ(ui.messages.size(), row < 0 ? 1u : 0u) << typed;
+  }
 }
 
 }  // namespace

@@ -119,17 +119,32 @@ struct User {
     Pick(s.form5, s.form5.Combo3, SetCombo3Selection);
     s.form3.Text3.text = s.form4.Text3.text = s.form5.Text3.text = Offset();
     s.form4.Text12.text = s.form5.Text12.text = Offset();
-    const std::string message = Text("ABC xyz[N]\\p&"), at = s.form5.Text3.text;
+    const bool ready = Die(2);  // "Game-ready script" ticked
+    s.form3.Check1.checked = s.form4.Check1.checked = s.form5.Check1.checked = ready;
+    const std::string message = Text("ABC xyz[N]\\p&");
     ui.inputAnswers = {message};
-    const ByteRange text = From(s.form5.Text12.text, 0, std::ssize(EncodeMessageText(message)) + 2);
+    if (Die(2)) {  // Find Free Space beside each offset field first; the text's asks for the message
+      test::FailureOf([&] {
+        if (window == WindowName::Form3) PressFindScriptSpace(s.form3, s.rom, ui);
+        if (window == WindowName::Form4) PressFindTextSpace(s.form4, s.rom, ui), PressFindScriptSpace(s.form4, s.rom, ui);
+        if (window == WindowName::Form5) PressFindTextSpace(s.form5, s.rom, ui), PressFindScriptSpace(s.form5, s.rom, ui);
+      });
+      ui.inputAnswers = {message};
+    }
+    // The free-space questions, answered either way (an "Inserted" takes an answer that is left).
+    ui.messageAnswers = {Die(2) ? MessageAnswer::Yes : MessageAnswer::No, Die(2) ? MessageAnswer::Yes : MessageAnswer::No};
+    const std::string at = window == WindowName::Form3 ? s.form3.Text3.text
+                           : window == WindowName::Form4 ? s.form4.Text3.text : s.form5.Text3.text;
+    const std::string textAt = window == WindowName::Form4 ? s.form4.Text12.text : s.form5.Text12.text;
+    const ByteRange text = From(textAt, 0, std::ssize(EncodeMessageText(message)) + (ready ? 1 : 2));
     if (window == WindowName::Form3) {
-      may = {From(at, 0, 13)};
+      may = {From(at, 0, ready ? 18 : 13)};
       InsertWildBattle(s.form3, s.form1, s.rom, ui);
     } else if (window == WindowName::Form4) {
-      may = {From(at, 0, 20), text};
+      may = {From(at, 0, ready ? 26 : 20), text};
       InsertWildBattle(s.form4, s.form1, s.rom, ui);
     } else {  // the body and the declined branch over its last two bytes, the no-room branch, the two texts
-      may = {From(at, 0, 83), From(at, 93, 9), From(at, 103, 48), text};
+      may = ready ? Ranges{From(at, 0, 160), text} : Ranges{From(at, 0, 83), From(at, 93, 9), From(at, 103, 48), text};
       InsertGivePokemon(s.form5, s.form1, s.rom, ui);
     }
   }
@@ -217,7 +232,11 @@ struct User {
          SetText1(form, Text("HELLO. WORLD'\r\n[End]\\h02x"));
          form.Text2.text = Offset();
          form.Text3.text = Offset();
-         ui.messageAnswers = {careful || Die(4) ? MessageAnswer::Yes : MessageAnswer::No};
+         if (Die(2)) {
+           test::FailureOf([&] { PressFindRecordSpace(form, s.rom, ui), PressFindScriptSpace(form, s.rom, ui); });
+         }
+         ui.messageAnswers = {careful || Die(4) ? MessageAnswer::Yes : MessageAnswer::No,
+                              careful || Die(2) ? MessageAnswer::Yes : MessageAnswer::No};  // and over what is not free
          // the header, the cells, FF 00; the script of 8 bytes
          may = {From(form.Text2.text, 0, std::ssize(EncodeBrailleText(form.Text1.text)) + 8),
                 From(form.Text3.text, 0, 8)};
@@ -363,8 +382,9 @@ TEST_P(BrokenRomTest, EveryButtonSaysWhyAndWritesNothing) {
       {"read-only", {}, "read-only"},
       {"cut short below its tables while open", [&](User&) { std::filesystem::resize_file(ToFilePath(path), 0x100000); },
        "end of the ROM|wholly inside the ROM|not loaded whole"},
-      // An unknown game: the starter editor and Wingfall do nothing for it.
-      {"shorter than its header", [&](User& u) { u.Open(tooShort.path()); }, "^$|end of the ROM|are not known"},
+      // An unknown game: the starter editor and Wingfall do nothing for it, and a gift has no fanfare.
+      {"shorter than its header", [&](User& u) { u.Open(tooShort.path()); },
+       "^$|end of the ROM|are not known|none of these games"},
       {"a folder", [&](User& u) { u.Open(ToPathText(folder)); }, "^$|No ROM is open"},
       {"cancelled in the Open dialog", [&](User& u) { u.Open(""); }, "No ROM is open"},
   });

@@ -22,6 +22,7 @@ class ScriptedDialogs : public Dialogs {
   struct InputShown {
     std::string prompt;
     std::string title;
+    std::string initial;
   };
   struct WindowEvent {
     WindowName window;
@@ -50,8 +51,9 @@ class ScriptedDialogs : public Dialogs {
     messages.push_back({std::string(text), std::string(title), buttons});
     return Next(messageAnswers, buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::No);
   }
-  std::optional<std::string> Input(std::string_view prompt, std::string_view title) override {
-    inputs.push_back({std::string(prompt), std::string(title)});
+  std::optional<std::string> Input(std::string_view prompt, std::string_view title,
+                                   std::string_view initial) override {
+    inputs.push_back({std::string(prompt), std::string(title), std::string(initial)});
     return Next(inputAnswers, std::optional<std::string>());
   }
   std::string OpenFile(std::string_view title, std::string_view /*filter*/) override {

@@ -1,7 +1,10 @@
 // The three script builders on a Sapphire fixture: a wild battle, the same with a message,
-// and the give-Pokemon script, each with rows chosen and offsets typed.
+// and the give-Pokemon script, each with rows chosen and offsets typed; then the give-Pokemon
+// script game-ready, its offsets found by the Find Free Space buttons.
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 
 #include "Screenshots.h"
 #include "qt/QtShell.h"
@@ -16,6 +19,7 @@ bool ShootScriptBuilders(const QDir& dir) {
   test::FixtureRom sapphire = test::EventFixtureRom("AXPE");
   const char* const items[] = {"Nothing", "Master Ball", "Ultra Ball", "Great Ball", "Poke Ball"};
   for (std::size_t i = 0; i < std::size(items); ++i) sapphire.PutName(0x3C55BC + 44 * i, items[i], 14);
+  sapphire.PutBytes(0x800000, Bytes(0x123, 0x11));  // no free space there
 
   test::ScriptedDialogs dialogs;
   dialogs.openFileAnswers.push_back(sapphire.path());
@@ -43,7 +47,15 @@ bool ShootScriptBuilders(const QDir& dir) {
     if (auto* text = form->findChild<QLineEdit*>("Text12")) test::Type(text, "&H800200");
     ok &= Save(form, dir, shot.file);
   }
-  return ok;
+
+  QWidget* give = shell.Window(WindowName::Form5);
+  if (give == nullptr) return false;
+  give->findChild<QCheckBox*>("Check1")->click();
+  test::Type(give->findChild<QLineEdit*>("Text12"), "&H800000");
+  dialogs.inputAnswers = {"\\v\\h01 found a POK\xC3\xA9 BALL.\\pTake it?"};
+  give->findChild<QPushButton*>("Command2")->click();  // the block behind what is not free space
+  give->findChild<QPushButton*>("Command3")->click();  // the question behind the block
+  return ok && Save(give, dir, "give-pokemon-game-ready.png");
 }
 
 }  // namespace tessarine::screenshots
