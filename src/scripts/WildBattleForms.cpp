@@ -51,7 +51,7 @@ std::int64_t ScriptLength(const Form4& form) {
                              : std::ssize(BuildWildBattleMessageScript(0, 0, 0, 0, 0));
 }
 
-// Upper-case ASCII letters, so that "mewtwo" names the row of "MEWTWO".
+// Upper-case ASCII letters, so that a name typed in small letters names its row.
 std::string Folded(std::string_view text) {
   std::string folded(text);
   for (char& c : folded) c = (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
@@ -103,7 +103,7 @@ void PickTypedSpecies(WildBattleForm& form, Dialogs& dialogs) {
   }
   if (row == rows.end()) {
     dialogs.Message("No row of the Pokemon list is named \"" + form.Combo1.text +
-                    "\". Type a name as the list shows it (MEWTWO), or a whole row (096 - MEWTWO).");
+                    "\". Type a name as the list shows it, or a whole row: its number, \" - \" and the name.");
     return;
   }
   SetCombo1Selection(form, static_cast<int>(row - rows.begin()));

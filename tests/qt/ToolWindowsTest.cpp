@@ -48,7 +48,7 @@ constexpr std::size_t kT = 0x7A0000;
 // A Sapphire ROM with its species and two item names, for the builders.
 test::FixtureRom BuilderRom() {
   test::FixtureRom rom = test::EventFixtureRom("AXPE");
-  rom.PutName(0x3C55BC + 44, "Potion", 14).PutName(0x3C55BC + 2 * 44, "Ether", 14);
+  rom.PutName(0x3C55BC + 44, "Tonic", 14).PutName(0x3C55BC + 2 * 44, "Cordial", 14);
   return rom;
 }
 
@@ -85,7 +85,7 @@ class ToolWindowsTest : public ::testing::Test {
   void PickBattle() {
     Pick(Find<QComboBox>("Combo1"), 0x19);
     Pick(Find<QComboBox>("Combo3"), 5);
-    EXPECT_EQ(Find<QComboBox>("Combo2")->itemText(2), "002 - Ether");
+    EXPECT_EQ(Find<QComboBox>("Combo2")->itemText(2), "002 - Cordial");
     Pick(Find<QComboBox>("Combo2"), 2);
   }
 };

@@ -43,7 +43,7 @@ struct Desk {
   static test::FixtureRom Fixture(const GameIdentity& game) {
     test::FixtureRom rom = test::EventFixtureRom(game);
     const test::GameOffsets& at = test::OffsetsOf(game);
-    rom.PutName(at.items + 13 * 44, "Nugget", 14).PutBytes(at.flyTable + 8 * 8, {1, 2, 3, 4, 5, 6, 7, 8});
+    rom.PutName(at.items + 13 * 44, "Tinsel", 14).PutBytes(at.flyTable + 8 * 8, {1, 2, 3, 4, 5, 6, 7, 8});
     return rom;
   }
   Desk() { Put(ruby); }
@@ -167,7 +167,7 @@ const Road kRoads[] = {
        PressContinue(d.s.form9, d.s.form1, d.ui);  // both fields at their "&H000000"
        EXPECT_THAT(d.ui.MessageTexts().back(), HasSubstr("Item Names: \"&H000000\" lies inside the cartridge header"));
      },
-     [](Desk& d) { d.Menu(MenuEntry::mnuediten, {"&H0", "POTION"}); }, {},
+     [](Desk& d) { d.Menu(MenuEntry::mnuediten, {"&H0", "TONIC"}); }, {},
      "Item Names: \"&H000000\" lies inside the cartridge header"},
     {"no ROM opened yet: both editors say so and ask nothing", [](Desk&) {},
      [](Desk& d) {
@@ -183,9 +183,9 @@ const Road kRoads[] = {
        d.Show(WindowName::Form3);
      },
      [](Desk& d) {
-       d.Menu(MenuEntry::mnuediten, {"&HD", "Pearl"});
+       d.Menu(MenuEntry::mnuediten, {"&HD", "Amber"});
        d.Show(WindowName::Form4);
-       EXPECT_EQ(d.s.form4.Combo2.rows.at(13), "00D - Pearl" + std::string(8, ' '));
+       EXPECT_EQ(d.s.form4.Combo2.rows.at(13), "00D - Amber" + std::string(8, ' '));
      },
      {{0x3DB028 + 13 * 44, 14}}, ""},
     {"a file renamed over the open one takes no save",

@@ -174,25 +174,25 @@ TEST(ScriptFormsTest, TheItemListIsReadFromTheRomThatIsOpenAndOnlyWhenItIsNeeded
   constexpr std::size_t kSapphireItems = 0x3C55BC, kFireRedItems = 0x3DB028;
   FixtureRom sapphire = FixtureRom::Sapphire();
   sapphire.PutName(kSapphireItems, "Ball", 14)
-      .PutName(kSapphireItems + 44, "Potion", 14)
+      .PutName(kSapphireItems + 44, "Tonic", 14)
       .PutName(kSapphireItems + 346 * 44, "Abcdefghijklmn", 14);  // fills its field: loses its last letter
   FixtureRom fireRed = FixtureRom::FireRed();
-  fireRed.PutName(kFireRedItems + 44, "Elixir", 14);
+  fireRed.PutName(kFireRedItems + 44, "Balsam", 14);
 
   Opened s;
   s.Open(sapphire.path());
   const std::vector<std::string>& rows = RequireForm5Loaded(s.session);
   ASSERT_EQ(rows.size(), 347u);
   EXPECT_EQ(rows[0], "000 - Ball");
-  EXPECT_EQ(rows[1], "001 - Potion");
+  EXPECT_EQ(rows[1], "001 - Tonic");
   EXPECT_EQ(rows[346], "15A - Abcdefghijklm");
   EXPECT_EQ(s.session.form5.Label7.caption, "&H3C55BC");
 
   FixtureRom emeraldUs("BPEE"), fireRed11("BPRE", FixtureRom::kSize, 1);  // its items lie elsewhere
-  emeraldUs.PutName(0x5839A0 + 44, "Ether", 14);
-  fireRed11.PutName(0x3DB098 + 44, "Ether", 14);
+  emeraldUs.PutName(0x5839A0 + 44, "Cordial", 14);
+  fireRed11.PutName(0x3DB098 + 44, "Cordial", 14);
   const std::tuple<FixtureRom*, const char*, const char*> games[] = {
-      {&fireRed, "&H3DB028", "001 - Elixir"}, {&emeraldUs, "&H5839A0", "001 - Ether"}, {&fireRed11, "&H3DB098", "001 - Ether"}};
+      {&fireRed, "&H3DB028", "001 - Balsam"}, {&emeraldUs, "&H5839A0", "001 - Cordial"}, {&fireRed11, "&H3DB098", "001 - Cordial"}};
   for (const auto& [rom, records, name] : games) {
     s.Open(rom->path());
     EXPECT_EQ(s.Item(1), name);

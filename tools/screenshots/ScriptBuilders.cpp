@@ -17,7 +17,7 @@ namespace tessarine::screenshots {
 
 bool ShootScriptBuilders(const QDir& dir) {
   test::FixtureRom sapphire = test::EventFixtureRom("AXPE");
-  const char* const items[] = {"Nothing", "Master Ball", "Ultra Ball", "Great Ball", "Poke Ball"};
+  const char* const items[] = {"Nothing", "Brass Ring", "Tin Whistle", "Glow Stone", "Moss Cake"};
   for (std::size_t i = 0; i < std::size(items); ++i) sapphire.PutName(0x3C55BC + 44 * i, items[i], 14);
   sapphire.PutBytes(0x800000, Bytes(0x123, 0x11));  // no free space there
 
