@@ -76,7 +76,7 @@ void LoadForm2(Form2& form, const Form1& main, RomImage& rom, Dialogs& dialogs) 
       (form.*ball.read).text = Form2{}.Text1.text;
       (form.*ball.save).text = Form2{}.balltxt.text;
     }
-    form.filled.Fill(main);
+    form.filled = {};  // it holds no starters of this ROM: Save refuses until a Reload reads them
     throw;
   }
   for (const Ball& ball : kBalls) {
@@ -111,7 +111,9 @@ void PressSave(Form2& form, const Form1& main, RomImage& rom, Dialogs& dialogs) 
   const GameProfile* game = FindGameProfile(IdentityOf(main));
   if (game == nullptr) return;
   RomWrite write(rom, main);
-  write.From(form.filled, FilledBeforeLastOpen("Press \"Reload\" to read the starters of the ROM that is open now."));
+  write.From(form.filled,
+             "The lists hold no starters read from the ROM that is open now: they were filled before the last Open "
+             "ROM, or their last read failed. Press \"Reload\" to read the starters of the ROM that is open now.");
   try {
     for (int i = 0; i < kBallCount; ++i) {
       Bytes word;

@@ -47,8 +47,8 @@ std::string WhatWasSaved(const std::vector<const EventWord*>& saved) {
          " saved.";
 }
 
-std::string LeftAloneMessage(const std::vector<const EventWord*>& leftAlone,
-                             const std::vector<const EventWord*>& saved) {
+// Why words were left as they are, for the message after the save or the sentence that ends it.
+std::string LeftAloneReason(const std::vector<const EventWord*>& leftAlone) {
   const bool one = leftAlone.size() == 1;
   std::string places;
   for (const EventWord* word : leftAlone) {
@@ -57,13 +57,16 @@ std::string LeftAloneMessage(const std::vector<const EventWord*>& leftAlone,
   }
   return "The " + JoinNames(leftAlone) + (one ? " word was left as it is: " : " words were left as they are: ") +
          places + (one ? ", which is no species number" : ", which are no species numbers") + " (&H0 to " +
-         ToHexText(kSpeciesCount - 1) + "), and writing a species there would break the event's script. " +
-         WhatWasSaved(saved);
+         ToHexText(kSpeciesCount - 1) + "), and writing a species there would break the event's script.";
 }
+
+// A word as a piece of the save's write.
+std::string WordPiece(std::string_view name) { return "the " + std::string(name) + " word"; }
 
 }  // namespace
 
 void LoadEventWords(Form1& form, RomImage& rom, Dialogs& /*dialogs*/) {
+  if (auto refusal = StaleEventRefusal(form, "loading")) throw Failure(*refusal);
   const EventEntry* event = SelectedEvent(form);
   if (const EventWordLayout* layout = event != nullptr ? event->layout : nullptr) {
     if (const std::string_view constant = FixedScriptOf(form, *event); !constant.empty()) {
@@ -95,41 +98,44 @@ void LoadEventWords(Form1& form, RomImage& rom, Dialogs& /*dialogs*/) {
   if (FollowsRs(form.cowmoo)) form.flagtxt.text = ToHexText(form.personFlag);
 }
 
+void ExpectEventWords(const Form1& form, RomWrite& write) {
+  const EventWordLayout* layout = SelectedWordLayout(form);
+  if (layout == nullptr) return;
+  const std::int64_t script = ParseOffset(form.scriptpointxt.text, "Script");
+  for (const auto& [name, distance] : {std::pair{"Pokemon", layout->firstWordAt}, {"Cry", layout->secondWordAt}}) {
+    write.Expect({WordPiece(name), script + distance, Bytes(2), "Script", form.scriptpointxt.text});
+  }
+}
+
 void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs, RomWrite& write) {
   const EventWordLayout* layout = SelectedWordLayout(form);
   if (layout == nullptr) return;
 
+  // The rule has put both places inside the ROM, before the person record was written.
+  const std::int64_t script = ParseOffset(form.scriptpointxt.text, "Script");
   EventWord words[] = {{"Pokemon", layout->firstWordAt, &form.hoobla}, {"Cry", layout->secondWordAt, &form.hoobla2}};
-  // The words from `from` on, as the account names them when the save stops before them.
-  const auto wordsFrom = [&words](std::size_t from) {
-    std::vector<std::string> names;
-    for (std::size_t i = from; i < std::size(words); ++i) {
-      names.push_back(std::string("the ") + words[i].name + " word");
-    }
-    return names;
-  };
   std::vector<const EventWord*> saved;
   std::vector<const EventWord*> leftAlone;
-  for (std::size_t i = 0; i < std::size(words); ++i) {
-    EventWord& word = words[i];
+  for (EventWord& word : words) {
+    word.at = static_cast<RomOffset>(script + word.distance);
     std::int16_t value = 0;
     try {
-      word.at = OffsetPlus(ParseOffset(form.scriptpointxt.text, "Script"), word.distance);
       value = SpeciesToWrite(word.field->text, word.name);
-      word.found = WordInFile(rom, word.at);
     } catch (const Failure& failure) {
-      throw write.Stopped(failure, wordsFrom(i));
+      Failure stopped = write.Stopped(failure);
+      throw leftAlone.empty() ? stopped : stopped.Then(LeftAloneReason(leftAlone));
     }
+    word.found = WordInFile(rom, word.at);
     if (!MayOverwrite(word.found)) {
       leftAlone.push_back(&word);
       continue;
     }
     Bytes bytes;
     AppendLittleEndian(bytes, static_cast<std::uint16_t>(value), 2);
-    write.Add({std::string("the ") + word.name + " word", word.at, std::move(bytes)}).CheckAndWrite(wordsFrom(i + 1));
+    write.Add({WordPiece(word.name), word.at, std::move(bytes), "Script", form.scriptpointxt.text}).CheckAndWrite();
     saved.push_back(&word);
   }
-  if (!leftAlone.empty()) dialogs.Message(LeftAloneMessage(leftAlone, saved));
+  if (!leftAlone.empty()) dialogs.Message(LeftAloneReason(leftAlone) + " " + WhatWasSaved(saved));
 }
 
 }  // namespace tessarine

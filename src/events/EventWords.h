@@ -21,4 +21,8 @@ void LoadEventWords(Form1& form, RomImage& rom, Dialogs& dialogs);
 // person record: a Failure here says what the save wrote before it.
 void SaveEventWords(Form1& form, RomImage& rom, Dialogs& dialogs, RomWrite& write);
 
+// The places of the event's two words, as pieces the save's `write` expects: the rule checks
+// them with the person record before anything is written.
+void ExpectEventWords(const Form1& form, RomWrite& write);
+
 }  // namespace tessarine

@@ -116,6 +116,7 @@ std::vector<std::string> MovementTypeTexts() {
 }
 
 void LoadPerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
+  if (auto refusal = StaleEventRefusal(form, "loading")) throw Failure(*refusal);
   form.personLoaded = false;  // until the Flag, the last field, has its text
   const PersonRecord record = ReadPersonRecord(form, rom);
   // The fields take their texts in the record's order, so a pointer that cannot become an
@@ -134,13 +135,15 @@ void LoadPerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
 }
 
 void SavePerson(Form1& form, RomImage& rom, Dialogs& dialogs) {
-  if (const auto refusal = SaveRefusal(form, rom)) throw Failure(*refusal + " Nothing was saved.");
+  if (const auto refusal = SaveRefusal(form, rom)) throw Failure(*refusal + " Nothing was written.");
   PersonRecord record = ReadPersonRecord(form, rom);
   record.sprite = ParseWord(form.spritetxt.text, "Sprite");  // the rule has parsed all three
   record.flag = ParseWord(form.flagtxt.text, "Flag");
   record.behaviour = ParseByte(form.behavtxt, "Behavior");
   RomWrite write(rom, form);
-  write.Add({"the person record", ParseOffset(form.personOffset, "Person offset"), record.ToBytes()}).CheckAndWrite();
+  write.Add({"the person record", ParseOffset(form.personOffset, "Person offset"), record.ToBytes()});
+  ExpectEventWords(form, write);
+  write.CheckAndWrite();
   form.personFlag = record.flag;
   SaveEventWords(form, rom, dialogs, write);
 }

@@ -45,10 +45,7 @@ std::optional<std::string> WordsRefusal(const Form1& form) {
 
 std::optional<std::string> SaveRefusal(const Form1& form, const RomImage& rom) {
   if (!rom.IsOpen()) return "No ROM is open. Open a ROM first.";
-  if (!form.eventFields.Current(form)) {
-    return "Pick an event in the list before saving: no event was picked since the ROM now open was opened, "
-           "and a save would write at offsets that may not belong to it.";
-  }
+  if (auto refusal = StaleEventRefusal(form, "saving")) return refusal;
   std::optional<std::string> outside;
   ParseFailure([&] { outside = PersonRecordOutsideRom(rom, ParseOffset(form.personOffset)); });
   if (outside) return outside;
@@ -67,16 +64,14 @@ std::optional<std::string> SaveRefusal(const Form1& form, const RomImage& rom) {
   if (layout == nullptr) return std::nullopt;
   if (auto refusal = WordsRefusal(form)) return refusal;
 
-  std::int64_t script = 0;
-  if (auto failure = ParseFailure([&] { script = ParseOffset(form.scriptpointxt.text, "Script"); })) return failure;
-  for (const auto& [name, distance] : {std::pair{"Pokemon", layout->firstWordAt}, {"Cry", layout->secondWordAt}}) {
-    const std::int64_t at = script + distance;
-    if (at < 0 || at > INT32_MAX) {
-      return "Script: \"" + form.scriptpointxt.text + "\" puts the " + name + " word " +
-             (at < 0 ? "before the start of the ROM." : "beyond 32 bits.");
-    }
-  }
-  return std::nullopt;
+  // Where the words lie is the write rule's to check, with the person record, before either is written.
+  return ParseFailure([&] { ParseOffset(form.scriptpointxt.text, "Script"); });
+}
+
+std::optional<std::string> StaleEventRefusal(const Form1& form, std::string_view doing) {
+  if (form.eventFields.Current(form)) return std::nullopt;
+  return "Pick an event in the list before " + std::string(doing) + ": no event was picked since the ROM now open "
+         "was opened, and the event fields may hold offsets that do not belong to it.";
 }
 
 std::int16_t SpeciesToWrite(std::string_view text, std::string_view name) {

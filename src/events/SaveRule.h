@@ -23,7 +23,8 @@ class RomImage;
 //   - for an event with words, the word fields hold what the save may write into them
 //     (WordsToSave): its words were read and the one that the Pokemon list follows held a
 //     species number, or a species was picked in the list since;
-//   - and the Script offset places both words within 32 bits, after the start of the ROM.
+//   - and Script is an offset; where it places the words, the write rule checks with the
+//     person record before either is written (ExpectEventWords).
 // Then the person record is written, and the words one after the other, Pokemon first. A
 // word whose field is no word or no species number stops the save there: what was written
 // before stays and the sentence says what was and what was not. A word whose place in the
@@ -31,6 +32,11 @@ class RomImage;
 
 // None when the save may run; else the sentence why not.
 std::optional<std::string> SaveRefusal(const Form1& form, const RomImage& rom);
+
+// None when the event fields belong to the ROM that is open (an event was picked since the
+// last Open ROM); else the sentence why the action (`doing`: "saving", "loading") may not run.
+// The one test of it, for the save and for the loads of the buttons beside the fields.
+std::optional<std::string> StaleEventRefusal(const Form1& form, std::string_view doing);
 
 // The species number in a word field, to be written; a Failure where the text is no species
 // number (0 to 411), a word or not. `name` names the field in the sentence.

@@ -136,7 +136,9 @@ bool RomWrite::ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>
     taken.push_back("the " + Size(static_cast<std::size_t>(run.end - run.at)) + " at " + HexNumber(run.at));
   }
   if (notFree > 0) {
-    const std::string question = Capitalized(JoinNames(taken)) + " are not free space: " + std::to_string(notFree) +
+    const bool one = taken.size() == 1 && taken[0].starts_with("the 1 byte ");
+    const std::string question = Capitalized(JoinNames(taken)) + (one ? " is" : " are") + " not free space: " +
+                                 std::to_string(notFree) +
                                  (notFree == 1 ? " of them is not FF." : " of them are not FF.") +
                                  " Write over them?";
     if (dialogs.Message(question, MessageButtons::YesNo, "Not free space") != MessageAnswer::Yes) {
@@ -148,7 +150,7 @@ bool RomWrite::ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>
   return true;
 }
 
-void RomWrite::Check(const std::vector<std::string>& alsoNotWritten) const {
+void RomWrite::CheckFile(const std::vector<std::string>& alsoNotWritten) const {
   const auto refuse = [&](const std::string& why) { return Stopped(Failure(why), alsoNotWritten); };
   if (!rom_.IsOpen()) throw refuse("No ROM is open. Open a ROM first.");
   if (!rom_.StillAtItsPath()) {
@@ -161,6 +163,11 @@ void RomWrite::Check(const std::vector<std::string>& alsoNotWritten) const {
                  ShownIdentity(IdentityOf(main_)) + "): it now reads \"" + ShownIdentity(now) +
                  "\". Another program changed the file since. Open the ROM again.");
   }
+}
+
+void RomWrite::Check(const std::vector<std::string>& alsoNotWritten) const {
+  const auto refuse = [&](const std::string& why) { return Stopped(Failure(why), alsoNotWritten); };
+  CheckFile(alsoNotWritten);
   if (filled_ != nullptr && !filled_->Current(main_)) throw refuse(refusal_);
   std::vector<const WritePiece*> toCheck;
   for (std::size_t i = written_; i < pieces_.size(); ++i) toCheck.push_back(&pieces_[i]);
@@ -199,6 +206,9 @@ void RomWrite::Check(const std::vector<std::string>& alsoNotWritten) const {
 }
 
 void RomWrite::Write(const std::vector<std::string>& alsoNotWritten) {
+  // A person may have taken their time over a question since the check: the file is looked
+  // at again right before its first byte.
+  if (written_ < pieces_.size()) CheckFile(alsoNotWritten);
   for (; written_ < pieces_.size(); ++written_) {
     const WritePiece& piece = pieces_[written_];
     try {

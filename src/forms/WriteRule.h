@@ -75,8 +75,9 @@ class RomWrite {
   // what was not (`alsoNotWritten`: as for Stopped).
   void Check(const std::vector<std::string>& alsoNotWritten = {}) const;
 
-  // Writes the pieces added and not yet written, in order. A write that fails ends the action
-  // with its sentence and the account.
+  // Writes the pieces added and not yet written, in order, after a last look at the file (open,
+  // at its path, with its header): a question may have stood since the check. A write that
+  // fails ends the action with its sentence and the account.
   void Write(const std::vector<std::string>& alsoNotWritten = {});
 
   void CheckAndWrite(const std::vector<std::string>& alsoNotWritten = {}) {
@@ -115,6 +116,9 @@ class RomWrite {
   std::string WrittenText() const;
 
  private:
+  // The part of the rule that looks at the file: open, at its path, with its header.
+  void CheckFile(const std::vector<std::string>& alsoNotWritten) const;
+
   RomImage& rom_;
   const Form1& main_;
   const FilledAt* filled_ = nullptr;

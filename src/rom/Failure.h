@@ -15,7 +15,7 @@ class Failure : public std::runtime_error {
   explicit Failure(const std::string& sentence) : std::runtime_error(sentence) {}
 
   // The same failure with what it means for the action appended, as in
-  // "Flag: ... is not a word." + "Nothing was saved."
+  // "Flag: ... is not a word." + "Nothing was written."
   [[nodiscard]] Failure Then(std::string_view consequence) const {
     return Failure(std::string(what()) + " " + std::string(consequence));
   }

@@ -21,6 +21,7 @@ void ApplyProfile(Form1& form, const GameProfile& profile) {
   const bool rs = FollowsRs(profile.cowmoo);  // Emerald's buttons and fields are Ruby's
   form.Command6.visible = rs;
   form.frlgl.visible = !rs;
+  form.frlgl.enabled = true;
   form.Combo3.enabled = profile.cowmoo == kFamilyRs;
   form.Combo4.enabled = true;
   form.Combo5.enabled = true;
@@ -102,6 +103,7 @@ void OpenRomFile(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string
   form.Command10.enabled = false;
   form.Command9.enabled = false;
   form.Command6.enabled = false;
+  form.frlgl.enabled = false;
 }
 
 // What was dropped, in quotes, as its sentence names it: a piece of text only by its start.

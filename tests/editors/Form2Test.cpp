@@ -91,8 +91,9 @@ TEST(Form2Test, ReloadShowsAnotherToolsWriteAndSaveRefusesListsOfTheRomBefore) {
   s.Open(sapphire.path());
   const test::ByteOracle oracle(sapphire.path());
   EXPECT_EQ(test::FailureOf([&] { PressSave(form, s.form, s.rom, s.dialogs); }),
-            "This window was filled before the last Open ROM, so what it holds may belong to the ROM opened before. "
-            "Press \"Reload\" to read the starters of the ROM that is open now. Nothing was written.");
+            "The lists hold no starters read from the ROM that is open now: they were filled before the last Open "
+            "ROM, or their last read failed. Press \"Reload\" to read the starters of the ROM that is open now. "
+            "Nothing was written.");
   EXPECT_THAT(oracle.Changes(), ::testing::IsEmpty());
 }
 

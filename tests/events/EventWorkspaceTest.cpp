@@ -118,7 +118,10 @@ TEST(EventWorkspaceTest, ASaveThatCannotRunIsRefusedBeforeAnyWrite) {
       {"Flag: \"&H10000\"", [](Session& s) { s.form.flagtxt.text = "&H10000"; }},
       {"Sprite: \"sprite\"", [](Session& s) { s.form.spritetxt.text = "sprite"; }},
       {"no event was picked since the ROM now open was opened",  // the fields are not this open's, loaded or not
-       [](Session& s) { s.Open(s.fixture.path()); LoadPerson(s.form, s.rom, s.dialogs); }},
+       [](Session& s) {
+         s.Open(s.fixture.path());
+         EXPECT_THAT(test::FailureOf([&] { LoadPerson(s.form, s.rom, s.dialogs); }), HasSubstr("before loading"));
+       }},
       {"Script: \"abc\"", [](Session& s) { s.form.scriptpointxt.text = "abc"; }},
       {"Script: \"&H7FFFFFFF\"", [](Session& s) { s.form.scriptpointxt.text = "&H7FFFFFFF"; }},
       {"Script: \"-5\"", [](Session& s) { s.form.scriptpointxt.text = "-5"; }},
@@ -150,7 +153,7 @@ TEST(EventWorkspaceTest, ASaveThatCannotRunIsRefusedBeforeAnyWrite) {
     const ByteOracle oracle(s.fixture.path());
     const std::string failure = s.SaveFailure();
     EXPECT_THAT(failure, HasSubstr(row.says));
-    EXPECT_THAT(failure, HasSubstr("Nothing was saved."));
+    EXPECT_THAT(failure, HasSubstr("Nothing was written."));
     EXPECT_THAT(oracle.Changes(), IsEmpty());
     if (row.allow == nullptr) continue;
     row.allow(s);
@@ -193,13 +196,13 @@ TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItL
       {"AXVE", 3, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla2.text = "&HXYZ"; }, {{0x15DE26, {0x33, 0x00}}},
        {"Cry: \"&HXYZ\" is no species number. Type one from &H0 to &H19B",
         "Written before it stopped: 22 bytes at &H38D880 (the person record) and 2 bytes at &H15DE26 (the Pokemon "
-        "word). Not written: the Cry word."}},
+        "word). Not written: the Cry word at &H15DE2D."}},
       {"AXVE", 3, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla2.text = "&HFFFF"; }, {{0x15DE26, {0x33, 0x00}}},
-       {"Cry: \"&HFFFF\" is no species number", "(the Pokemon word). Not written: the Cry word."}},
+       {"Cry: \"&HFFFF\" is no species number", "(the Pokemon word). Not written: the Cry word at &H15DE2D."}},
       {"AXVE", 2, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla.text = "&H19C"; }, {},
        {"Pokemon: \"&H19C\" is no species number",
-        "Written before it stopped: 22 bytes at &H391E78 (the person record). Not written: the Pokemon word and the "
-        "Cry word."}},
+        "Written before it stopped: 22 bytes at &H391E78 (the person record). Not written: the Pokemon word at "
+        "&H160BF4 and the Cry word at &H160BCE."}},
       {"AXVE", 1, [](FixtureRom& f) { Lay(f, 0x38EE50, kScript, kBattle); }, pick, {{kScript + 3, {0xAB, 0x00}}},
        {"The Cry word was left as it is: at &HB00008 stands &HA130, which is no species number (&H0 to &H19B)" + tail +
         "The person record and the Pokemon word were saved."}},
@@ -220,9 +223,9 @@ TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItL
        {"The Pokemon and Cry words were left as they are: at &HB00103 stands &HFFFF and at &HB00108 stands &HFFFF, "
         "which are no species numbers (&H0 to &H19B)" + tail + "The person record was saved."}},
       {"AXVE", 1, [](FixtureRom& f) { Lay(f, 0x38EE50, kNearEnd, Bytes(kBattle.begin(), kBattle.begin() + 9)); }, pick,
-       {{kNearEnd + 3, {0xAB, 0x00}}},  // and the file keeps its size
-       {"The Cry word was left as it is: at &HFFFFFF stands the end of the ROM, which is no species number (&H0 to "
-        "&H19B)" + tail + "The person record and the Pokemon word were saved."}},
+       {},  // the file ends inside the Cry word: nothing is written, the person record neither
+       {"Script: \"&HFFFFF7\": the Cry word, 2 bytes from &HFFFFFF, would run past the end of the ROM, which is "
+        "&H1000000 bytes long. Nothing was written."}},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(std::string(row.code) + " " + std::to_string(row.event) + (row.says.empty() ? "" : row.says[0]));
@@ -254,7 +257,8 @@ TEST(EventWorkspaceTest, MovementTypesFollowTheBehaviourByteAndASaveKeepsIt) {
 TEST(EventWorkspaceTest, ALoadBeforeAnyPickAsksForOneAndAnIndexThatNamesNoRowChangesNothing) {
   Session s({"AXVE", 0});
   EXPECT_EQ(test::FailureOf([&] { LoadPerson(s.form, s.rom, s.dialogs); }),
-            "No event is picked, so there is no person record to read. Pick an event in the list first.");
+            "Pick an event in the list before loading: no event was picked since the ROM now open was opened, and the "
+            "event fields may hold offsets that do not belong to it.");
   s.PickEvent(2);
   const Form1 before = s.form;
   for (const int index : {-1, 412, INT32_MIN, INT32_MAX}) {

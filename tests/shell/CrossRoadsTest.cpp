@@ -15,6 +15,7 @@
 #include "flyland/Form8.h"
 #include "rom/FilePath.h"
 #include "rom/HexField.h"
+#include "scripts/WildBattleForms.h"
 #include "shell/OpenRom.h"
 #include "shell/Session.h"
 #include "shell/ToolsMenu.h"
@@ -31,10 +32,19 @@ namespace {
 using test::ByteRange;
 using ::testing::HasSubstr;
 
+// Dialogs during whose next question another program does something to the file.
+struct Dialogs : test::ScriptedDialogs {
+  std::function<void()> whileAsked;
+  MessageAnswer Message(std::string_view text, MessageButtons buttons, std::string_view title) override {
+    if (whileAsked) std::exchange(whileAsked, {})();
+    return ScriptedDialogs::Message(text, buttons, title);
+  }
+};
+
 // The program with no windows, on one file whose bytes the roads change as other programs do.
 struct Desk {
   Session s;
-  test::ScriptedDialogs ui;
+  Dialogs ui;
   test::FixtureRom ruby = Fixture({"AXVE", 0}), fireRed = Fixture({"BPRE", 0});
   test::FixtureRom unknown{"ZZZZ"};
   const std::string path = ToPathText(test::TemporaryPath("rom.gba"));
@@ -202,19 +212,17 @@ const Road kRoads[] = {
      },
      [](Desk& d) { d.Menu(MenuEntry::mnuedipmon, {"&H1", "AB"}); }, {},
      "no longer names the game that was opened (AXVE): it now reads \"BPRE\""},
-    {"starters past the end of a short ROM show no value",
+    {"starters past the end of a short ROM show no value, and are saved only once read",
      [](Desk& d) {
        test::FixtureRom shortRuby = Desk::Fixture({"AXVE", 0});
        d.Open(shortRuby);
        std::filesystem::resize_file(ToFilePath(d.path), 0x300000);
-     },
-     [](Desk& d) {
        EXPECT_THAT(test::FailureOf([&] { d.Show(WindowName::Form2); }), HasSubstr("past the end of the file"));
        EXPECT_EQ(d.s.form2.Combo1.selected, -1);
        EXPECT_EQ(d.s.form2.Combo1.text, "");
-       PressSave(d.s.form2, d.s.form1, d.s.rom, d.ui);
+       d.Put(shortRuby);  // the whole ROM again, in place: the same file and game
      },
-     {}, "would run past the end of the ROM"},
+     [](Desk& d) { PressSave(d.s.form2, d.s.form1, d.s.rom, d.ui); }, {}, "or their last read failed"},
 };
 
 // Actions that write in steps, stopped by the system part way through.
@@ -267,7 +275,7 @@ const Road kStoppedRoads[] = {
      [](Desk& d) { SaveWithWritesRefusedFrom(0xA00000, [&] { SavePerson(d.s.form1, d.s.rom, d.ui); }); },
      {{0x38EE51, 1}},
      "Written before it stopped: 22 bytes at &H38EE50 (the person record). Not written: 2 bytes at &HA00103 (the "
-     "Pokemon word) and the Cry word."},
+     "Pokemon word) and the Cry word at &HA00108."},
 };
 
 void Walk(std::span<const Road> roads) {
@@ -296,6 +304,20 @@ TEST(CrossRoadsTest, AnActionStoppedPartWaySaysWhatItWroteAndWhatNot) {
   GTEST_SKIP() << "Windows has no limit on the size of a file a process writes";
 #endif
   Walk(kStoppedRoads);
+}
+
+// A person may take their time over the question before a write: a game written over the file
+// meanwhile takes none of the bytes meant for the ROM opened.
+TEST(CrossRoadsTest, AFileChangedWhileAQuestionStandsTakesNoByte) {
+  Desk d;
+  d.Open(d.ruby);
+  d.Show(WindowName::Form3);
+  d.s.form3.Text3.text = "&H38EE50";  // a person record: no free space
+  d.ui.messageAnswers = {MessageAnswer::Yes};
+  d.ui.whileAsked = [&] { d.Put(d.fireRed); };
+  EXPECT_THAT(test::FailureOf([&] { InsertWildBattle(d.s.form3, d.s.form1, d.s.rom, d.ui); }),
+              HasSubstr("no longer names the game that was opened (AXVE)"));
+  EXPECT_EQ(test::ReadWholeFile(d.path), d.fireRed.image());
 }
 
 // A file that cannot be written says so the moment it opens.

@@ -381,7 +381,7 @@ TEST_P(BrokenRomTest, EveryButtonSaysWhyAndWritesNothing) {
   PressEveryButton({
       {"read-only", {}, "read-only"},
       {"cut short below its tables while open", [&](User&) { std::filesystem::resize_file(ToFilePath(path), 0x100000); },
-       "end of the ROM|wholly inside the ROM|not loaded whole"},
+       "end of the ROM|wholly inside the ROM|not loaded whole|last read failed"},
       // An unknown game: the starter editor and Wingfall do nothing for it, and a gift has no fanfare.
       {"shorter than its header", [&](User& u) { u.Open(tooShort.path()); },
        "^$|end of the ROM|are not known|none of these games"},
