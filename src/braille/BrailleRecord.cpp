@@ -66,12 +66,4 @@ Bytes BrailleScriptBytes(RomOffset brailleOffset) {
   return script;
 }
 
-void WriteBrailleRecord(RomImage& rom, RomOffset offset, const BrailleHeader& header, std::string_view text) {
-  rom.WriteBytes(offset, BrailleRecordBytes(header, text));
-}
-
-void WriteBrailleScript(RomImage& rom, RomOffset scriptOffset, RomOffset brailleOffset) {
-  rom.WriteBytes(scriptOffset, BrailleScriptBytes(brailleOffset));
-}
-
 }  // namespace tessarine

@@ -33,9 +33,4 @@ Bytes BrailleRecordBytes(const BrailleHeader& header, std::string_view text);
 // record's pointer, end. An offset that can be no pointer (&H78000000 or more) is a Failure.
 Bytes BrailleScriptBytes(RomOffset brailleOffset);
 
-// Each writes its bytes at the offset in one write, which the RomImage refuses whole where
-// they would run past the end of the file.
-void WriteBrailleRecord(RomImage& rom, RomOffset offset, const BrailleHeader& header, std::string_view text);
-void WriteBrailleScript(RomImage& rom, RomOffset scriptOffset, RomOffset brailleOffset);
-
 }  // namespace tessarine

@@ -66,7 +66,7 @@ constexpr std::array kProfiles{
     GameProfile{"BPEE", 0, "e", "&H3185C8", "", "", "", "", "", "", "", "", "&H5839A0",
                 {0x5B1DF8, 0x5B1DFA, 0x5B1DFC}, 0x59F54A, FlyList::emerald, kEmerald10Events},
     // Japanese Emerald: Open ROM does not take it; the starter editor and Wingfall know it.
-    GameProfile{"BPEJ", 0, "", "", "", "", "", "", "", "", "", "", "",
+    GameProfile{"BPEJ", kAnyRevision, "", "", "", "", "", "", "", "", "", "", "",
                 {0x590C08, 0x590C0A, 0x590C0C}, 0x57B11A, FlyList::hoenn},
 };
 
@@ -100,7 +100,7 @@ std::string ShownIdentity(const GameIdentity& identity) {
 
 const GameProfile* FindGameProfile(const GameIdentity& identity) {
   const auto profile = std::ranges::find_if(kProfiles, [&](const GameProfile& p) {
-    return p.code == identity.code && p.revision == identity.revision;
+    return p.code == identity.code && (p.revision == identity.revision || p.revision == kAnyRevision);
   });
   return profile != kProfiles.end() ? &*profile : nullptr;
 }

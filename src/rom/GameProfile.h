@@ -19,6 +19,8 @@ inline constexpr int kGameCodeOffset = 0xAC;
 inline constexpr int kRevisionOffset = 0xBC;
 // A header too short to hold the revision byte.
 inline constexpr int kNoRevision = -1;
+// A profile known by its code alone, whatever the revision byte holds.
+inline constexpr int kAnyRevision = -2;
 
 // A game as the header names it: its code and its revision together. Every revision of a
 // game keeps its data at offsets of its own, so the code alone names no offset.
@@ -94,7 +96,8 @@ struct GameProfile {
   bool Opens() const { return !cowmoo.empty(); }
 };
 
-// The profile of this exact code (case included) and revision, or none.
+// The profile of this exact code (case included) and revision, or none. Japanese Emerald's,
+// which only the starter editor and Wingfall know, is known by its code alone.
 const GameProfile* FindGameProfile(const GameIdentity& identity);
 
 // Whether some revision of the code has a profile: a ROM of a known game whose revision

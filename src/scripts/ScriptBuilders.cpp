@@ -2,7 +2,6 @@
 
 #include "rom/Failure.h"
 #include "rom/GameProfile.h"
-#include "rom/RomImage.h"
 #include "text/Table2Text.h"
 
 namespace tessarine {
@@ -186,11 +185,6 @@ Bytes MessageTextBytes(std::string_view message) {
   bytes.push_back(0xFF);  // the word 0x00FF
   bytes.push_back(0x00);
   return bytes;
-}
-
-void WriteMessageText(RomImage& rom, RomOffset textOffset, std::string_view message) {
-  // One write: a text that does not fit is refused whole, its end bytes with it.
-  rom.WriteBytes(textOffset, MessageTextBytes(message));
 }
 
 }  // namespace tessarine

@@ -10,7 +10,6 @@
 
 namespace tessarine {
 
-class RomImage;
 
 // The scripts that the builders write, as bytes. Pure functions of the values; a pointer
 // that leaves 32 bits throws Failure. The command names in the comments are the lister's.
@@ -87,6 +86,5 @@ Bytes GameReadyMessageBytes(std::string_view message);
 
 // A message text as stored: EncodeMessageText of what the person typed, then FF 00.
 Bytes MessageTextBytes(std::string_view message);
-void WriteMessageText(RomImage& rom, RomOffset textOffset, std::string_view message);
 
 }  // namespace tessarine

@@ -199,6 +199,10 @@ TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItL
         "word). Not written: the Cry word at &H15DE2D."}},
       {"AXVE", 3, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla2.text = "&HFFFF"; }, {{0x15DE26, {0x33, 0x00}}},
        {"Cry: \"&HFFFF\" is no species number", "(the Pokemon word). Not written: the Cry word at &H15DE2D."}},
+      {"AXVE", 2, [](FixtureRom& f) { f.PutWord(0x160BF4, 0x7FFF); }, [](Session& s) { s.form.hoobla2.text = "&HZZ"; },
+       {},  // a word left alone, then a bad one: both are named as not written, and why the first
+       {"Not written: the Pokemon word at &H160BF4 and the Cry word at &H160BCE. The Pokemon word was left as it is: at "
+        "&H160BF4 stands &H7FFF"}},
       {"AXVE", 2, [](FixtureRom&) {}, [](Session& s) { s.form.hoobla.text = "&H19C"; }, {},
        {"Pokemon: \"&H19C\" is no species number",
         "Written before it stopped: 22 bytes at &H391E78 (the person record). Not written: the Pokemon word at "

@@ -33,7 +33,7 @@ using ::testing::IsEmpty;
 TEST(FlyRecordsTest, EachGameReadsItsRecordFromItsOwnTable) {
   const std::tuple<GameIdentity, int, std::size_t> cases[] = {
       {{"AXPE", 0}, 0, 0x3E5A86},  {{"AXPE", 0}, 19, 0x3E5B1E}, {{"AXVE", 0}, 17, 0x3E5AB6}, {{"BPRE", 0}, 8, 0x3EEC36},
-      {{"BPGE", 0}, 0, 0x3EEA32},  {{"BPEJ", 0}, 3, 0x57B132},  {{"AXVE", 1}, 0, 0x3E5A4A},  {{"AXVE", 2}, 17, 0x3E5AD2},
+      {{"BPGE", 0}, 0, 0x3EEA32},  {{"BPEJ", 1}, 3, 0x57B132},  {{"AXVE", 1}, 0, 0x3E5A4A},  {{"AXVE", 2}, 17, 0x3E5AD2},
       {{"AXPE", 2}, 19, 0x3E5B3E}, {{"BPRE", 1}, 8, 0x3EECA6},  {{"BPGE", 1}, 0, 0x3EEAA2},
       {{"BPEE", 0}, 19, 0x59F5E2}};
   for (const auto& [game, index, offset] : cases) {

@@ -11,6 +11,7 @@
 #include "braille/Form6.h"
 #include "editors/Form9.h"
 #include "events/EventSelection.h"
+#include "events/EventWords.h"
 #include "events/PersonRecord.h"
 #include "flyland/Form8.h"
 #include "rom/FilePath.h"
@@ -141,6 +142,15 @@ const Road kRoads[] = {
        EXPECT_EQ(d.s.form5.Text2.text, "&H0000");
      },
      {{0x700000, 83}, {0x70005D, 9}, {0x700067, 48}, {0x7A0000, 2}, {0x7A0003, 1}}, ""},  // FF stood at T+2
+    {"after an unknown game the event Load reads nothing at the offsets of the game before",
+     [](Desk& d) {
+       d.Open(d.fireRed);
+       SetCombo4Selection(d.s.form1, d.s.rom, d.ui, 1);
+       d.Open(d.unknown);
+       PressContinue(d.s.form9, d.s.form1, d.ui);
+       EXPECT_FALSE(d.s.form1.frlgl.enabled || d.s.form1.Combo4.enabled);
+     },
+     [](Desk& d) { LoadEventWords(d.s.form1, d.s.rom, d.ui); }, {}, "Pick an event in the list before loading"},
     {"a gift from a window of the ROM before writes nothing", GiftOnFireRed,
      [](Desk& d) {
        d.ui.openFileAnswers = {d.path};
