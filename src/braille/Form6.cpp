@@ -169,6 +169,15 @@ std::vector<TextPiece> TextPieces(std::string_view text, std::size_t pieceBytes)
   return pieces;
 }
 
+std::string TextOfPieces(const std::vector<TextPiece>& pieces) {
+  std::string text;
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    if (i > 0 && !pieces[i].continues) text += kLineBreak;
+    text += pieces[i].text;
+  }
+  return text;
+}
+
 void SetBrailleLeft(Form6& form, std::string text) {
   form.brailleleft.text = std::move(text);
   form.Label1.Left = EightPixelUnits(form.brailleleft.text).value_or(form.Label1.Left);

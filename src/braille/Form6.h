@@ -124,6 +124,10 @@ struct TextPiece {
 };
 inline constexpr std::size_t kTextPieceBytes = 4096;
 std::vector<TextPiece> TextPieces(std::string_view text, std::size_t pieceBytes = kTextPieceBytes);
+
+// The text that pieces make, the way back: each piece behind the one before, with CR LF
+// before a piece that starts a line of its own.
+std::string TextOfPieces(const std::vector<TextPiece>& pieces);
 void SetBrailleLeft(Form6& form, std::string text);
 void SetBrailleTop(Form6& form, std::string text);
 

@@ -60,10 +60,14 @@ inline void Sync(QLabel* widget, const Label& label) {
   widget->setVisible(label.visible);
 }
 
-// A window's handling of the keys its fields and closed lists pass on: Enter presses the
-// default button. True when the key was taken.
+// A window's handling of the keys its fields pass on: Enter in a text field (an offset, a
+// number) presses the default button. Enter anywhere else (a list, a check box, a list that
+// takes typed text) presses nothing: a key pressed by habit there writes nothing. True when
+// the key was taken.
 inline bool EnterPresses(QKeyEvent* event, QAbstractButton* defaultButton) {
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return false;
+  const auto* field = qobject_cast<QLineEdit*>(defaultButton->window()->focusWidget());
+  if (field == nullptr || qobject_cast<QComboBox*>(field->parentWidget()) != nullptr) return false;
   defaultButton->click();
   return true;
 }
@@ -93,16 +97,16 @@ inline void FitNumber(QLineEdit* field, NumberText kind) {
 
 // Esc in a tool window closes it and writes nothing: it presses `closer` (the window's own
 // button that closes it, such as Done) or, with none, closes the window as its title bar
-// does. The tooltip of `named` (the closer, else the window's main button) names the key.
-inline void CloseOnEscape(QWidget* window, QAbstractButton* named, QAbstractButton* closer = nullptr) {
+// does. The closer's tooltip names the key, else the window's own (where no field has one).
+inline void CloseOnEscape(QWidget* window, QAbstractButton* closer = nullptr) {
   auto* escape = new QShortcut(QKeySequence::Cancel, window);
   if (closer != nullptr) {
     QObject::connect(escape, &QShortcut::activated, closer, &QAbstractButton::click);
+    closer->setToolTip("Closes the window without writing (Esc)");
   } else {
     QObject::connect(escape, &QShortcut::activated, window, &QWidget::close);
+    window->setToolTip("Esc closes the window without writing.");
   }
-  named->setToolTip(closer != nullptr ? "Closes the window without writing (Esc)"
-                                      : "Esc closes the window without writing.");
 }
 
 // A drop-down list; remembers the rows it last gave its widget, so that a refresh fills

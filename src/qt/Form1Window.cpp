@@ -113,9 +113,9 @@ Form1Window::Form1Window(QtShell& shell) : shell_(shell) {
   BuildWidgets();
   Connect();
   Refresh();
-  // A file dropped anywhere on the window is the window's, also over a field: the fields take
-  // no drops of their own.
-  for (QWidget* child : findChildren<QWidget*>()) child->setAcceptDrops(false);
+  // A file dropped anywhere on the window is the window's, also over a field; text dragged
+  // into a field goes there, as in any field.
+  for (QWidget* child : findChildren<QWidget*>()) child->installEventFilter(this);
   setAcceptDrops(true);
 }
 
@@ -413,6 +413,10 @@ void Form1Window::mouseMoveEvent(QMouseEvent* event) {
 }
 
 bool Form1Window::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::DragEnter && static_cast<QDragEnterEvent*>(event)->mimeData()->hasUrls()) {
+    event->ignore();  // not the field's: it goes on to the window
+    return true;
+  }
   if (event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     bool eventList = false;

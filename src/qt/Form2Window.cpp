@@ -63,7 +63,7 @@ Form2Window::Form2Window(QtShell& shell, Form2& form)
     shell_.Run([this] { LoadForm2(form_, shell_.form1(), shell_.rom(), shell_.dialogs()); });
   });
   connect(Command2_, &QPushButton::clicked, this, [this] { shell_.Run([this] { PressDone(shell_.dialogs()); }); });
-  CloseOnEscape(this, Command2_, Command2_);
+  CloseOnEscape(this, Command2_);
   Refresh();
 }
 

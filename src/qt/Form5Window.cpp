@@ -85,14 +85,15 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
   }
   connect(Command1_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { InsertGivePokemon(form_, shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
-  CloseOnEscape(this, Command1_);
+  CloseOnEscape(this);
   connect(Check1_, &QCheckBox::clicked, this, [this](bool on) { form_.Check1.checked = on; });
   connect(Command2_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { PressFindScriptSpace(form_, shell_.rom(), shell_.dialogs()); }); });
   connect(Command3_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { PressFindTextSpace(form_, shell_.rom(), shell_.dialogs()); }); });
-  // The fields in their order, then Insert and the new controls.
-  QWidget* const order[] = {Combo1_, pkmntxt_, Combo3_, Combo2_, Text3_, Text12_, Command1_, Check1_, Command2_, Command3_};
+  // As the window reads: each Find Free Space after its field, the box before Insert.
+  QWidget* const order[] = {Combo1_, pkmntxt_, Combo3_, Combo2_, Text3_, Command2_, Text12_, Command3_, Check1_,
+                            Command1_};
   for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
   Refresh();
 }

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -33,6 +34,37 @@ QString Q(const std::string& text) { return QString::fromStdString(text); }
 
 // A block of Text1 that goes on the line of the block before it (TextPieces).
 constexpr int kContinuesLine = 1;
+
+// Text1's box, which holds a long line in several blocks: what it gives as its text, and what
+// it copies or drags, has the line breaks of the record only, not those between the blocks.
+class BrailleTextBox : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+
+  // The text from position `from` to `to` of the box, CR LF between its lines.
+  std::string Text(int from, int to) const {
+    std::vector<std::string> texts;
+    std::vector<bool> continues;
+    for (QTextBlock block = document()->findBlock(from); block.isValid() && block.position() <= to;
+         block = block.next()) {
+      const int start = std::max(from, block.position()) - block.position();
+      const int end = std::min(to, block.position() + block.length() - 1) - block.position();
+      texts.push_back(block.text().mid(start, std::max(end - start, 0)).toStdString());
+      continues.push_back(texts.size() > 1 && block.userState() == kContinuesLine);
+    }
+    std::vector<TextPiece> pieces;
+    for (std::size_t i = 0; i < texts.size(); ++i) pieces.push_back({texts[i], continues[i]});
+    return TextOfPieces(pieces);
+  }
+
+ protected:
+  QMimeData* createMimeDataFromSelection() const override {
+    const QTextCursor cursor = textCursor();
+    auto* data = new QMimeData;
+    data->setText(Q(Text(cursor.selectionStart(), cursor.selectionEnd())).replace("\r\n", "\n"));
+    return data;
+  }
+};
 
 // Pixels far enough outside the preview that an edge there is never seen: a frame's edge
 // placed further out is drawn there, so that no widget takes a size Qt cannot hold.
@@ -68,7 +100,7 @@ void Form6Window::BuildWidgets() {
   titleFont.setBold(true);
   Label14_->setFont(titleFont);
   Label9_ = Named(new QLabel(this), "Label9");
-  Text1_ = Named(new QPlainTextEdit(this), "Text1");
+  Text1_ = Named(new BrailleTextBox(this), "Text1");
   Text1_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   Text1_->setTabChangesFocus(true);
   Text1_->setFixedSize(300, 120);
@@ -178,9 +210,10 @@ void Form6Window::BuildWidgets() {
   window->addLayout(body);
   window->setSizeConstraint(QLayout::SetFixedSize);
 
-  QWidget* const order[] = {Text1_,      Text2_,     Text3_,       postionleft_, postiontop_, msgboxleft_,
-                            msgboxtop_, brailleleft_, brailletop_, Command1_,    Command2_,   Command3_,
-                            Command4_,  Command5_,   Command6_,    Command7_};
+  // As the window reads: each Find Free Space after its offset.
+  QWidget* const order[] = {Text1_,       Text2_,      Command6_,   Text3_,     Command7_,    postionleft_,
+                            postiontop_,  msgboxleft_, msgboxtop_,  brailleleft_, brailletop_, Command1_,
+                            Command2_,    Command3_,   Command4_,   Command5_};
   for (std::size_t i = 1; i < std::size(order); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
@@ -222,7 +255,7 @@ void Form6Window::Connect() {
     });
   });
 
-  CloseOnEscape(this, Command1_);
+  CloseOnEscape(this);
 
   // Enter: the offset of the record loads it, the script offset inserts (after the question),
   // and the layout fields apply.
@@ -296,12 +329,7 @@ void Form6Window::ShowText1(const std::string& text) {
 
 std::string Form6Window::TypedText1() const {
   // A block that a person starts with Enter has no state, so it starts a line of its own.
-  std::string text;
-  for (QTextBlock block = Text1_->document()->firstBlock(); block.isValid(); block = block.next()) {
-    if (block.previous().isValid() && block.userState() != kContinuesLine) text += "\r\n";
-    text += block.text().toStdString();
-  }
-  return text;
+  return static_cast<const BrailleTextBox*>(Text1_)->Text(0, Text1_->document()->characterCount());
 }
 
 void Form6Window::ShowLabel1() {

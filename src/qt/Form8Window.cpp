@@ -243,7 +243,7 @@ void Form8Window::Connect() {
   connect(Command2_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { LoadMapImageFile(form_, shell_.dialogs(), pictures_); }); });
   connect(Command1_, &QPushButton::clicked, this, [this] { shell_.Run([this] { PasteMapImage(form_, pictures_); }); });
-  CloseOnEscape(this, savebutton_);
+  CloseOnEscape(this);
 }
 
 void Form8Window::Refresh() {

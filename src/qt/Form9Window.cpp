@@ -59,7 +59,7 @@ Form9Window::Form9Window(QtShell& shell, Form9& form)
           [this] { shell_.Run([this] { PressContinue(form_, shell_.form1(), shell_.dialogs()); }); });
   connect(Command2_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { PressQuit(form_, shell_.dialogs()); }); });
-  CloseOnEscape(this, Command2_, Command2_);
+  CloseOnEscape(this, Command2_);
   Refresh();
 }
 

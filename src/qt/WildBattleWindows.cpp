@@ -88,14 +88,16 @@ void WildBattleWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void WildBattleWindow::FinishLayout() {
-  CloseOnEscape(this, Command1_);
+  CloseOnEscape(this);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(Check1_);
   buttons->addStretch();
   buttons->addWidget(Command1_);
   grid_->addLayout(buttons, grid_->rowCount(), 0, 1, 4);
-  setTabOrder(Command1_, Check1_);
-  setTabOrder(Check1_, Command4_);
+  // As the window reads: each Find Free Space after its field, the box before Insert.
+  setTabOrder(Text3_, Command4_);
+  setTabOrder(Command4_, Check1_);
+  setTabOrder(Check1_, Command1_);
 }
 
 void WildBattleWindow::Refresh() {
@@ -143,8 +145,6 @@ Form4Window::Form4Window(QtShell& shell, Form4& form)
   grid_->addWidget(Text12_, 5, 1);
   grid_->addWidget(Command5_, 5, 2, 1, 2, Qt::AlignLeft);
   grid_->addWidget(Label7_, 6, 0, 1, 4);
-  setTabOrder(Text3_, Text12_);
-  setTabOrder(Text12_, Command1_);
 
   connect(Text12_, &QLineEdit::textEdited, this, [this](const QString& t) { form4_.Text12.text = t.toStdString(); });
   connect(Combo3_, &QComboBox::activated, this,
@@ -156,7 +156,9 @@ Form4Window::Form4Window(QtShell& shell, Form4& form)
   connect(Command5_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { PressFindTextSpace(form4_, shell_.rom(), shell_.dialogs()); }); });
   FinishLayout();
-  setTabOrder(Command4_, Command5_);
+  setTabOrder(Command4_, Text12_);
+  setTabOrder(Text12_, Command5_);
+  setTabOrder(Command5_, Check1_);
   Refresh();
 }
 

@@ -106,14 +106,21 @@ void OpenRomFile(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string
   form.frlgl.enabled = false;
 }
 
-// What was dropped, in quotes, as its sentence names it: a piece of text only by its start.
-std::string Quoted(const std::string& dropped) {
+// What was dropped, in quotes, as its sentence names it: a path with its file name whole and,
+// where it is long, only the start of its folder; a piece of text only by its start.
+std::string Quoted(const std::string& dropped, bool isPath) {
   constexpr std::size_t kLongest = 60;
+  const auto cutAt = [](const std::string& text, std::size_t cut) {
+    while (cut > 0 && (static_cast<unsigned char>(text[cut]) & 0xC0) == 0x80) --cut;  // not inside a letter
+    return text.substr(0, cut);
+  };
   std::string shown = dropped.substr(0, dropped.find_first_of("\r\n"));
-  if (shown.size() > kLongest) {
-    std::size_t cut = kLongest;
-    while (cut > 0 && (static_cast<unsigned char>(shown[cut]) & 0xC0) == 0x80) --cut;  // not inside a letter
-    shown = shown.substr(0, cut) + "...";
+  if (isPath && shown.size() > kLongest) {
+    const std::size_t name = shown.find_last_of("/\\") + 1;  // 0 where there is no folder
+    const std::size_t room = kLongest - std::min(kLongest, shown.size() - name);
+    if (room < name) shown = cutAt(shown, room) + ".../" + shown.substr(name);
+  } else if (shown.size() > kLongest) {
+    shown = cutAt(shown, kLongest) + "...";
   } else if (shown.size() < dropped.size()) {
     shown += "...";
   }
@@ -145,14 +152,14 @@ std::string RefusalOf(const Dropped& dropped) {
     std::string names;
     for (std::size_t i = 0; i < all.size() && i < kNamed; ++i) {
       const bool last = i + 1 == all.size();
-      names += (i == 0 ? "" : last ? " and " : ", ") + Quoted(all[i]);
+      names += (i == 0 ? "" : last ? " and " : ", ") + Quoted(all[i], i < dropped.paths.size());
     }
     if (all.size() > kNamed) names += " and " + std::to_string(all.size() - kNamed) + " more";
     return std::to_string(all.size()) + " things were dropped: " + names + ".";
   }
-  if (dropped.paths.empty()) return Quoted(all[0]) + " is not a file on this computer.";
-  if (IsFolder(all[0])) return Quoted(all[0]) + " is a folder.";
-  if (!NamesAGbaFile(all[0])) return Quoted(all[0]) + " is not a .gba file.";
+  if (dropped.paths.empty()) return Quoted(all[0], false) + " is not a file on this computer.";
+  if (IsFolder(all[0])) return Quoted(all[0], true) + " is a folder.";
+  if (!NamesAGbaFile(all[0])) return Quoted(all[0], true) + " is not a .gba file.";
   return "";
 }
 

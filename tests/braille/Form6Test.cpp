@@ -224,6 +224,9 @@ TEST(Form6Test, TextPiecesKeepTheLinesAndCutLongOnesAtACharacter) {
   EXPECT_EQ(pieces("", 4), "|");
   EXPECT_EQ(pieces("ABCDEFGHIJ\r\n\r\nAB", 4), "|ABCD+EFGH+IJ||AB");
   EXPECT_EQ(pieces("AB\xC3\xA9" "CD\r\n", 3), "|AB+\xC3\xA9" "C+D|");  // é stays whole
+  for (const char* text : {"", "ABCDEFGHIJ\r\n\r\nAB", "AB\xC3\xA9" "CD\r\n"}) {  // and the way back
+    EXPECT_EQ(TextOfPieces(TextPieces(text, 3)), text);
+  }
 }
 
 TEST(Form6Test, ThePreviewDrawsTheCellsAsBraillePatterns) {

@@ -179,19 +179,21 @@ TEST_F(Form1WindowTest, TheCaptionOfOpenDoesNothingAndTheAboutBoxIsOneModelessWi
   EXPECT_EQ(shell.Window(WindowName::frmAbout), nullptr);
 }
 
-// What is dropped on the window, also over a field: one .gba file opens as Open does, anything
-// else is refused by a sentence that names it, and the ROM that was open stays open.
+// What is dropped on the window, files also over a field: one .gba file opens as Open does,
+// anything else is refused by a sentence that names it, and the ROM that was open stays open.
 TEST_F(Form1WindowTest, AGbaFileDroppedOnTheWindowOpensAndAnythingElseIsRefusedByName) {
   test::FixtureRom ruby = test::EventFixtureRom("AXVE"), fixture = test::EventFixtureRom("AXPE");
   ClickOpen(ruby.path());
   const QString rom = QString::fromStdString(fixture.path()), folder = QDir::tempPath();
   const QUrl file = QUrl::fromLocalFile(rom), notes = QUrl::fromLocalFile(rom + ".txt");
+  const QString deep = folder + "/" + QString(70, 'd') + "/Pokemon (Rev 1).zip";  // its name shows whole
   const struct {
     QList<QUrl> urls;
     QString text;
     std::string refusal;  // "" where it opens
   } rows[] = {
       {{notes}, notes.toLocalFile(), "\"" + notes.toLocalFile().toStdString() + "\" is not a .gba file."},
+      {{QUrl::fromLocalFile(deep)}, {}, "\"" + deep.left(41).toStdString() + ".../Pokemon (Rev 1).zip\" is not a .gba file."},
       {{QUrl::fromLocalFile(folder)}, {}, "\"" + folder.toStdString() + "\" is a folder."},
       {{file, file, notes, notes}, {}, "4 things were dropped: \"" + rom.toStdString() + "\", \"" + rom.toStdString() +
                                            "\", \"" + notes.toLocalFile().toStdString() + "\" and 1 more."},
@@ -205,10 +207,12 @@ TEST_F(Form1WindowTest, AGbaFileDroppedOnTheWindowOpensAndAnythingElseIsRefusedB
     QMimeData data;
     data.setUrls(row.urls);
     if (!row.text.isEmpty()) data.setText(row.text);  // as file managers give it too, which a field would take
+    // Files over a field, which leaves them to the window; text on the window, since a field takes text.
+    QWidget* target = row.urls.isEmpty() ? static_cast<QWidget*>(&window) : Find("spritetxt");
     QDragEnterEvent enter(QPoint(4, 4), Qt::CopyAction, &data, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(Find("spritetxt"), &enter);
+    QCoreApplication::sendEvent(target, &enter);
     QDropEvent drop(QPointF(4, 4), Qt::CopyAction, &data, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(Find("spritetxt"), &drop);
+    QCoreApplication::sendEvent(target, &drop);
     QTest::qWait(0);
     const std::string told = row.refusal + " Drop one .gba file on the window to open it; nothing was opened.";
     EXPECT_EQ(dialogs.MessageTexts(), row.refusal.empty() ? std::vector<std::string>{} : std::vector{told});

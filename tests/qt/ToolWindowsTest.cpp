@@ -91,7 +91,7 @@ class ToolWindowsTest : public ::testing::Test {
 };
 
 // Each builder from the menu, its battle picked in its lists and its offsets typed: Insert, clicked
-// or pressed by Enter in a list or a field, writes the script and the message typed into the box,
+// or pressed by Enter in a field, writes the script and the message typed into the box,
 // and closes the form.
 TEST_F(ToolWindowsTest, EachBuilderWritesTheBattlePickedInItsListsAndCloses) {
   const std::vector<std::string> asked = {"You wan't a Message in your event script?", "Inserted"};
@@ -104,7 +104,7 @@ TEST_F(ToolWindowsTest, EachBuilderWritesTheBattlePickedInItsListsAndCloses) {
     std::vector<ByteRange> changes;
     std::vector<std::pair<std::size_t, const char*>> bytes;  // where, and what it holds then
   } rows[] = {
-      {MenuEntry::mnuwbs, WindowName::Form3, {MessageAnswer::No}, {{"Text3", "&H700000"}}, "Combo3", {{kS, 13}},
+      {MenuEntry::mnuwbs, WindowName::Form3, {MessageAnswer::No}, {{"Text3", "&H700000"}}, "Text3", {{kS, 13}},
        {{kS, "6A 5A B6 19 00 05 02 00 30 A1 19 00 02"}}},
       {MenuEntry::mnuwbs, WindowName::Form4, {MessageAnswer::Yes},
        {{"pkmntxt", "&H1A"}, {"Text3", "&H700000"}, {"Text12", "&H7A0000"}},  // typed over the list's number
@@ -180,9 +180,9 @@ TEST(ToolKeysTest, FieldsFitInALargeFontTabWalksThemInOrderAndEscClosesWithoutWr
   } rows[] = {
       {MenuEntry::mnuwbs, WindowName::Form4, {std::begin(battle), std::end(battle)},
        {{"pkmntxt", word}, {"crytxt", word}, {"Text3", offset}, {"Text12", offset}}},
-      {MenuEntry::mnugps, WindowName::Form5, {"Combo1", "pkmntxt", "Combo3", "Combo2", "Text3", "Text12", "Command1"},
+      {MenuEntry::mnugps, WindowName::Form5, {"Combo1", "pkmntxt", "Combo3", "Combo2", "Text3", "Command2", "Text12", "Command3", "Check1", "Command1"},
        {{"pkmntxt", word}, {"Text3", offset}, {"Text12", offset}}},
-      {MenuEntry::mnuib, WindowName::Form6, {"Text1", "Text2", "Text3", "postionleft", "postiontop", "msgboxleft"},
+      {MenuEntry::mnuib, WindowName::Form6, {"Text1", "Text2", "Command6", "Text3", "Command7", "postionleft"},
        {{"Text2", offset}, {"Text3", offset}, {"postionleft", byte}, {"brailletop", byte}}},
       {MenuEntry::mnustart, WindowName::Form2, {"Combo1", "Combo2", "Combo3", "Command1", "Command3", "Command2"}, {}},
       {MenuEntry::mnuflin, WindowName::Form8, {"hoenn", "loadbutton", "savebutton", "XXt", "YYt", "Command2"},
@@ -211,7 +211,7 @@ TEST(ToolKeysTest, FieldsFitInALargeFontTabWalksThemInOrderAndEscClosesWithoutWr
 }
 
 // Form4 by keyboard and mouse: Enter in the species box picks the row typed and inserts nothing; the
-// new controls follow Insert in the tab order; with the box ticked, the two Find Free Space buttons
+// tab order reads as the window does; with the box ticked, the two Find Free Space buttons
 // (the text's asks for the message) lead to a game-ready insert whose box shows the message kept.
 TEST_F(ToolWindowsTest, Form4FindsFreeSpaceAndInsertsAGameReadyScript) {
   test::FixtureRom fixture = BuilderRom();
@@ -231,13 +231,16 @@ TEST_F(ToolWindowsTest, Form4FindsFreeSpaceAndInsertsAGameReadyScript) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(window));
   Find("Text12")->setFocus();
   std::string order;
-  for (int i = 0; i < 4; ++i) {
+  for (int i = 0; i < 3; ++i) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     order += QApplication::focusWidget()->objectName().toStdString() + " ";
   }
-  EXPECT_EQ(order, "Command1 Check1 Command4 Command5 ");
+  EXPECT_EQ(order, "Command5 Check1 Command1 ");  // the text's Find Free Space, the box, Insert
 
   Click("Check1");
+  Find("Check1")->setFocus();
+  QTest::keyClick(Find("Check1"), Qt::Key_Return);  // Enter on the box writes nothing
+  EXPECT_THAT(oracle.Changes(), IsEmpty());
   Click("Command5");
   Click("Command4");
   EXPECT_EQ(Text("Text12") + " " + Text("Text3"), "&H100 &H104");  // the script behind the text and an FF
@@ -259,7 +262,7 @@ TEST_F(ToolWindowsTest, Form2SavesWhatIsPickedAndDoneClosesWithoutWriting) {
   Pick(Find<QComboBox>("Combo2"), 0x19);
   const ByteOracle oracle(fixture.path());
   Click("Command1");
-  QTest::keyClick(ball1, Qt::Key_Return);  // Enter in a closed list presses Save again
+  QTest::keyClick(ball1, Qt::Key_Return);  // Enter in a list presses nothing: a key by habit writes nothing
   Pick(ball1, 0);
   Click("Command3");  // Reload: the stored row again
   EXPECT_EQ(ball1->currentIndex(), 277);
@@ -269,7 +272,7 @@ TEST_F(ToolWindowsTest, Form2SavesWhatIsPickedAndDoneClosesWithoutWriting) {
   EXPECT_EQ(shell.Window(WindowName::Form2), nullptr);
   EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{0x3F76C6, 2}}));  // Save's only change; Done wrote none
   EXPECT_EQ(oracle.Now()[0x3F76C6], 0x19);
-  EXPECT_EQ(dialogs.MessageTexts(), (std::vector<std::string>{"Saved", "Saved"}));
+  EXPECT_EQ(dialogs.MessageTexts(), (std::vector<std::string>{"Saved"}));
 }
 
 // The name editors ask in input boxes; a prompt's "&" is shown, not taken as a shortcut mark.
@@ -366,6 +369,10 @@ TEST_F(ToolWindowsTest, Form6InsertsLoadsAndPreviewsABrailleRecord) {
   text1->moveCursor(QTextCursor::End);
   QTest::keyClick(text1, Qt::Key_Return);
   QTest::keyClicks(text1, "C");
+  EXPECT_EQ(shell.session().form6.Text1.text, "B" + std::string(9000, 'A') + "\r\nC");
+  text1->selectAll();  // cut and pasted back: the line breaks of the record only
+  text1->cut();
+  text1->paste();
   EXPECT_EQ(shell.session().form6.Text1.text, "B" + std::string(9000, 'A') + "\r\nC");
 
   QTemporaryDir folder;  // a file that is no picture is refused, and the picture stays
