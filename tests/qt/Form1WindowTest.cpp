@@ -18,12 +18,10 @@
 
 #include "qt/LinedTextBoxWidget.h"
 #include "qt/QtListingProgress.h"
-#include "qt/QtShell.h"
 #include "rom/Failure.h"
 #include "support/ByteOracle.h"
 #include "support/EventFixtures.h"
-#include "support/ScriptedDialogs.h"
-#include "support/WidgetDriver.h"
+#include "support/ShellTest.h"
 
 namespace tessarine {
 namespace {
@@ -35,24 +33,17 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::MatchesRegex;
 
-class Form1WindowTest : public ::testing::Test {
- protected:
+class Form1WindowTest : public test::ShellTest {
+ public:
   void SetUp() override {
     shell.ShowWindow(WindowName::Form1);
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    window = &shell.mainWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
   }
-  template <typename W = QLineEdit>
-  W* Find(const char* name) {
-    return window.findChild<W*>(name);
-  }
-  void Click(const char* button) { QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton); }
   void ClickOpen(const std::string& path) {  // on the picture of Open, beside its caption
     dialogs.openFileAnswers.push_back(path);
     QTest::mouseClick(Find<ImageButton>("Image3"), Qt::LeftButton, {}, QPoint(6, 6));
   }
-  test::ScriptedDialogs dialogs;
-  QtShell shell{dialogs};
-  Form1Window& window = shell.mainWindow();
 };
 
 // A person's road through the window: each control on it reaches the core and shows its field,
@@ -136,15 +127,15 @@ TEST_F(Form1WindowTest, TheKeysReachOpenAndToolsAndTheAboutBoxIsOneModelessWindo
   EXPECT_THAT(dialogs.fileDialogs, IsEmpty());
   QTest::keyClick(Find<ImageButton>("Image3"), Qt::Key_Return);
   QTest::qWait(300);  // animateClick's press
-  window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  QTest::keyClick(&window, Qt::Key_O, Qt::ControlModifier);
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+  QTest::keyClick(window, Qt::Key_O, Qt::ControlModifier);
   EXPECT_EQ(dialogs.fileDialogs.size(), 2u);
   QString popUp;
   QTimer::singleShot(0, [&] {
     if (QWidget* menu = QApplication::activePopupWidget()) popUp = menu->objectName(), menu->close();
   });
-  QTest::keyClick(&window, Qt::Key_T, Qt::AltModifier);
+  QTest::keyClick(window, Qt::Key_T, Qt::AltModifier);
   EXPECT_EQ(popUp, "mnuptro");
   QTest::mouseClick(Find<QLabel>("Label17"), Qt::LeftButton);
   QWidget* about = shell.Window(WindowName::frmAbout);
@@ -194,7 +185,7 @@ TEST_F(Form1WindowTest, AGbaFileDroppedOnTheWindowOpensAndAnythingElseIsRefusedB
     data.setUrls(row.urls);
     if (!row.text.isEmpty()) data.setText(row.text);  // as file managers give it too, which a field would take
     // Files over a field, which leaves them to the window; text on the window, since a field takes text.
-    QWidget* target = row.urls.isEmpty() ? static_cast<QWidget*>(&window) : Find("spritetxt");
+    QWidget* target = row.urls.isEmpty() ? window : Find("spritetxt");
     QDragEnterEvent enter(QPoint(4, 4), Qt::CopyAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(target, &enter);
     QDropEvent drop(QPointF(4, 4), Qt::CopyAction, &data, Qt::LeftButton, {});
@@ -213,11 +204,11 @@ TEST_F(Form1WindowTest, AnUnknownGameShowsTheUnsupportedRomDialogInsteadOfTheMai
   EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("Unsupported ROM"));
   QWidget* form9 = shell.Window(WindowName::Form9);
   ASSERT_NE(form9, nullptr);
-  EXPECT_EQ(std::pair(window.isVisible(), form9->isVisible()), std::pair(false, true));
+  EXPECT_EQ(std::pair(window->isVisible(), form9->isVisible()), std::pair(false, true));
   Type(form9->findChild<QLineEdit*>("Text1"), "&H245EE0");
   QTest::mouseClick(form9->findChild<QPushButton*>("Command1"), Qt::LeftButton);
   QTest::qWait(0);  // the closed dialog is dropped
-  EXPECT_EQ(std::pair(window.isVisible(), shell.Window(WindowName::Form9)), std::pair(true, (QWidget*)nullptr));
+  EXPECT_EQ(std::pair(window->isVisible(), shell.Window(WindowName::Form9)), std::pair(true, (QWidget*)nullptr));
   EXPECT_EQ(shell.form1().Label20, "&H245EE0");
 }
 
@@ -232,7 +223,7 @@ TEST_F(Form1WindowTest, TheRightButtonOnTheBackgroundOpensTheToolsMenuWithNoRomO
       QTest::keyClick(menu, Qt::Key_Return);
     }
   });
-  QTest::mouseClick(&window, Qt::RightButton, {}, QPoint(300, 250));
+  QTest::mouseClick(window, Qt::RightButton, {}, QPoint(300, 250));
   EXPECT_EQ(entries.size(), 10);
   EXPECT_EQ(entries.value(1), "Insert Wild Battle Script");
   EXPECT_THAT(dialogs.programsStarted, ElementsAre("Kindlewick"));
