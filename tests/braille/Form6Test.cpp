@@ -208,18 +208,12 @@ TEST(Form6Test, TextPiecesKeepTheLinesAndCutLongOnesAtACharacter) {
   }
 }
 
+// The preview draws the cells as braille patterns, as many lines and cells a line as fit.
 TEST(Form6Test, ThePreviewDrawsTheCellsAsBraillePatterns) {
-  const struct {
-    const char* text;
-    std::size_t lines, cells;
-    const char* glyphs;
-  } rows[] = {
+  const std::tuple<const char*, std::size_t, std::size_t, const char*> rows[] = {
       {"ABCDEFGHIJKLMNOPQRSTUVWXYZ.", 9, 99, "⠁⠃⠉⠙⠑⠋⠛⠓⠊⠚⠅⠇⠍⠝⠕⠏⠟⠗⠎⠞⠥⠧⠺⠭⠽⠵⠲"},
-      {"A\r\n\r\nB", 9, 99, "⠁\n\n⠃"},
-      {"ABC\r\nDEF\r\nG", 2, 2, "⠁⠃\n⠙⠑"},
-      {"A", 0, 9, ""},
-  };
-  for (const auto& row : rows) EXPECT_EQ(BrailleGlyphText(row.text, row.lines, row.cells), row.glyphs) << row.text;
+      {"A\r\n\r\nB", 9, 99, "⠁\n\n⠃"}, {"ABC\r\nDEF\r\nG", 2, 2, "⠁⠃\n⠙⠑"}, {"A", 0, 9, ""}};
+  for (const auto& [text, lines, cells, glyphs] : rows) EXPECT_EQ(BrailleGlyphText(text, lines, cells), glyphs) << text;
 }
 
 }  // namespace

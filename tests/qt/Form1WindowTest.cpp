@@ -4,17 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
 #include <QDropEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
 #include <QThread>
 #include <QTimer>
-#include <QUrl>
 
 #include "qt/LinedTextBoxWidget.h"
 #include "qt/QtListingProgress.h"

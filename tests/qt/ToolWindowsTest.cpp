@@ -4,11 +4,8 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
-#include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QFrame>
-#include <QImage>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMouseEvent>

@@ -302,32 +302,26 @@ TEST(UserRoadsTest, NoActionWritesOutsideTheBytesItNames) {
 // ends with a sentence that says what is wrong and writes nothing; the program then opens a
 // good ROM and saves on it. On Ruby, and on Emerald, whose events the profile places.
 class BrokenRomTest : public testing::TestWithParam<GameIdentity> {
- protected:
+ public:
   struct Row {
     const char* broken;
     std::function<void(User&)> breakIt;  // none: the file is read-only
     const char* sentence;
-    std::function<void()> mend = {};     // after the buttons, before the good ROM
   };
-
-  BrokenRomTest() { std::filesystem::create_directories(folder); }
-  ~BrokenRomTest() override { std::filesystem::remove(folder); }
-
   void PressEveryButton(std::initializer_list<Row> rows);
 
-  test::FixtureRom fixture = RoadRom(GetParam());
+  test::FixtureRom fixture = RoadRom(GetParam()), tooShort = test::FixtureRom::TooShort();
   const std::string path = fixture.path();
-  const std::filesystem::path folder = test::TemporaryPath("a folder.gba");
-  test::FixtureRom tooShort = test::FixtureRom::TooShort();
+  std::optional<test::WriteLimit> limit;
 };
 
+INSTANTIATE_TEST_SUITE_P(Games, BrokenRomTest, testing::Values(GameIdentity{"AXVE", 0}, GameIdentity{"BPEE", 0}),
+                         [](const testing::TestParamInfo<GameIdentity>& game) { return game.param.code; });
+
 void BrokenRomTest::PressEveryButton(std::initializer_list<Row> rows) {
-  const auto restore = [&] {
-    std::ofstream(ToFilePath(path), std::ios::binary).write(reinterpret_cast<const char*>(fixture.image().data()), kRomSize);
-  };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.broken);
-    restore();
+    std::ofstream(ToFilePath(path), std::ios::binary).write(reinterpret_cast<const char*>(fixture.image().data()), kRomSize);
     std::optional<test::ReadOnlyFile> readOnly;
     if (!row.breakIt && !readOnly.emplace(path).works()) continue;  // this machine lets the tests write any file
     User user(1, true);
@@ -342,23 +336,21 @@ void BrokenRomTest::PressEveryButton(std::initializer_list<Row> rows) {
       EXPECT_TRUE((!action.writes && sentence.empty()) || std::regex_search(sentence, std::regex(row.sentence)))
           << action.name << ": " << sentence;
     }
-    if (row.mend) row.mend();
+    limit.reset();
     readOnly.reset();
     const Bytes now = test::ReadWholeFile(path);  // every byte as it was, the cut ones cut
     EXPECT_TRUE(now.size() >= 0x100000 && std::equal(now.begin(), now.end(), fixture.image().begin()));
     EXPECT_EQ(test::ReadWholeFile(tooShort.path()), tooShort.image());
-
-    restore();
+    std::ofstream(ToFilePath(path), std::ios::binary).write(reinterpret_cast<const char*>(fixture.image().data()), kRomSize);
     user.Open(path);
     EXPECT_EQ(user.Do("pick an event") + user.Do("save the starters"), "");
     EXPECT_NE(test::ReadWholeFile(path), fixture.image());
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Games, BrokenRomTest, testing::Values(GameIdentity{"AXVE", 0}, GameIdentity{"BPEE", 0}),
-                         [](const testing::TestParamInfo<GameIdentity>& game) { return game.param.code; });
-
 TEST_P(BrokenRomTest, EveryButtonSaysWhyAndWritesNothing) {
+  const std::string folder = ToPathText(test::TemporaryPath("a folder.gba"));
+  std::filesystem::create_directories(ToFilePath(folder));
   PressEveryButton({
       {"read-only", {}, "read-only"},
       {"cut short below its tables while open", [&](User&) { std::filesystem::resize_file(ToFilePath(path), 0x100000); },
@@ -366,9 +358,10 @@ TEST_P(BrokenRomTest, EveryButtonSaysWhyAndWritesNothing) {
       // An unknown game: the starter editor and Wingfall do nothing for it, and a gift has no fanfare.
       {"shorter than its header", [&](User& u) { u.Open(tooShort.path()); },
        "^$|end of the ROM|are not known|none of these games"},
-      {"a folder", [&](User& u) { u.Open(ToPathText(folder)); }, "^$|No ROM is open"},
+      {"a folder", [&](User& u) { u.Open(folder); }, "^$|No ROM is open"},
       {"cancelled in the Open dialog", [&](User& u) { u.Open(""); }, "No ROM is open"},
   });
+  std::filesystem::remove(ToFilePath(folder));
 }
 
 TEST_P(BrokenRomTest, OnAPipeOrWhereTheSystemRefusesWritesEveryButtonSaysWhyAndWritesNothing) {
@@ -376,11 +369,10 @@ TEST_P(BrokenRomTest, OnAPipeOrWhereTheSystemRefusesWritesEveryButtonSaysWhyAndW
   GTEST_SKIP() << "Windows has no named pipe among its files and no limit on the size of a file a process writes";
 #else
   const std::string pipe = ToPathText(test::TemporaryPath("a pipe.gba"));
-  std::optional<test::WriteLimit> limit;
   PressEveryButton({
       {"a pipe", [&](User& u) { mkfifo(pipe.c_str(), 0600), u.Open(pipe), std::filesystem::remove(pipe); },
        "^$|No ROM is open"},
-      {"the system refuses every write", [&](User&) { limit.emplace(0); }, "File too large", [&] { limit.reset(); }},
+      {"the system refuses every write", [&](User&) { limit.emplace(0); }, "File too large"},
   });
 #endif
 }

@@ -17,14 +17,11 @@ namespace tessarine::test {
 class ScriptedDialogs : public Dialogs {
  public:
   struct MessageShown {
-    std::string text;
-    std::string title;
+    std::string text, title;
     MessageButtons buttons;
   };
   struct InputShown {
-    std::string prompt;
-    std::string title;
-    std::string initial;
+    std::string prompt, title, initial;
   };
   struct WindowEvent {
     WindowName window;
@@ -76,9 +73,9 @@ class ScriptedDialogs : public Dialogs {
   template <typename Answer>
   static Answer Next(std::deque<Answer>& queue, Answer otherwise) {
     if (queue.empty()) return otherwise;
-    Answer answer = std::move(queue.front());
+    otherwise = std::move(queue.front());
     queue.pop_front();
-    return answer;
+    return otherwise;
   }
 };
 
