@@ -1,23 +1,10 @@
 #include "braille/Form6.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/Tests.h"
 
 #include <array>
 
-#include "support/ByteOracle.h"
-#include "support/Failures.h"
-#include "support/FixtureRom.h"
-#include "support/MainSession.h"
-
 namespace tessarine {
 namespace {
-
-using test::ByteOracle;
-using test::FailureOf;
-using test::FixtureRom;
-using ::testing::AllOf;
-using ::testing::HasSubstr;
 
 using Fields = std::array<const char*, 6>;  // postionleft to brailletop
 constexpr Fields kBare = {"&H", "&H", "&H", "&H", "&H", "&H"}, kZero = {"&H0", "&H0", "&H0", "&H0", "&H0", "&H0"};

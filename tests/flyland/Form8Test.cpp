@@ -1,29 +1,15 @@
 #include "flyland/Form8.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <utility>
 
 #include "flyland/FlyRecords.h"
 #include "flyland/MapImages.h"
 #include "flyland/MapView.h"
 #include "rom/RomImage.h"
-#include "support/ByteOracle.h"
-#include "support/EventFixtures.h"
-#include "support/MainSession.h"
+#include "support/Tests.h"
 
 namespace tessarine {
 namespace {
-
-using test::ByteOracle;
-using test::FailureOf;
-using test::FixtureRom;
-using test::ScriptedDialogs;
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 // Each game's record at its own place: bank at +2, level at +3, X at +4, Y at +6. The
 // records beside it hold other bytes, so a record taken from the wrong place shows.

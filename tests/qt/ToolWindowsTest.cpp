@@ -1,6 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
@@ -19,20 +16,14 @@
 #include "editors/NameEditors.h"
 #include "qt/QtDialogs.h"
 #include "shell/OpenRom.h"
-#include "support/ByteOracle.h"
-#include "support/EventFixtures.h"
 #include "support/ShellTest.h"
+#include "support/Tests.h"
 
 namespace tessarine {
 namespace {
 
-using test::ByteOracle;
-using test::ByteRange;
 using test::Pick;
 using test::Type;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 constexpr std::size_t kS = 0x700000;
 constexpr std::size_t kT = 0x7A0000;
@@ -271,12 +262,10 @@ TEST(QtDialogsTest, TheFileDialogRemembersItsFolderForTheRunOnly) {
   EXPECT_EQ(config.entryList(QDir::Files).join(' ').toStdString(), "");
 }
 
-
 // The braille inserter: the text typed shows as braille at once, the six fields move the text and
 // Apply the frame, Insert writes the record and its script, Restore and Load bring back what the
 // record holds. A line longer than the box holds in one block of its own: keys change what they
-// type and no more, at its start and at its end, and a cut and paste keeps the line whole. A file
-// that is no picture is refused, and the preview keeps its picture.
+// type and no more, at its start and at its end, and a cut and paste keeps the line whole.
 TEST_F(ToolWindowsTest, Form6InsertsLoadsAndPreviewsABrailleRecord) {
   test::FixtureRom fixture = test::FixtureRom::Sapphire();
   fixture.PutBytes(kS, Bytes(16, 0x11)).PutBytes(kS + 0x100, Bytes(16, 0x11));
@@ -324,14 +313,6 @@ TEST_F(ToolWindowsTest, Form6InsertsLoadsAndPreviewsABrailleRecord) {
   text1->cut();
   text1->paste();
   EXPECT_EQ(shell.session().form6.Text1.text, typed);
-
-  QTemporaryDir folder;
-  QFile(folder.filePath("notes.bmp")).open(QIODevice::WriteOnly);
-  dialogs.messages.clear();
-  dialogs.openFileAnswers = {folder.filePath("notes.bmp").toStdString()};
-  Click("Command5");
-  EXPECT_THAT(dialogs.MessageTexts(), ElementsAre(HasSubstr("The preview keeps its picture.")));
-  EXPECT_EQ(Find<QLabel>("Picture1")->pixmap().size(), QSize(240, 160));
 }
 
 // Wingfall on English Emerald: its own last locations, a pick shows the landing, clicks on the

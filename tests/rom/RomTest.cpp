@@ -1,22 +1,13 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <optional>
 
 #include "rom/FilePath.h"
 #include "rom/GbaPointer.h"
 #include "rom/HexField.h"
 #include "rom/RomImage.h"
-#include "support/Failures.h"
-#include "support/FixtureRom.h"
+#include "support/Tests.h"
 
 namespace tessarine {
 namespace {
-
-using test::FailureOf;
-using test::FixtureRom;
-using ::testing::AllOf;
-using ::testing::HasSubstr;
 
 template <typename Parse>
 std::optional<std::int32_t> Attempt(Parse parse, const char* text) {

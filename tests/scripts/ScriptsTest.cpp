@@ -1,8 +1,5 @@
 #include "scripts/ListScript.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <array>
 #include <functional>
@@ -11,21 +8,10 @@
 #include "forms/ListRows.h"
 #include "rom/HexField.h"
 #include "scripts/ScriptBuilders.h"
-#include "support/ByteOracle.h"
-#include "support/MainSession.h"
+#include "support/Tests.h"
 
 namespace tessarine {
 namespace {
-
-using test::ByteOracle;
-using test::ByteRange;
-using test::FailureOf;
-using test::FixtureRom;
-using test::ScriptedDialogs;
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 std::string Repeat(std::string_view text, std::size_t times) {
   std::string out;
@@ -389,7 +375,7 @@ TEST(FreeSpaceTest, FindsTheFirstAlignedRunWithOneFFBehind) {
 
 // The "Find Free Space" buttons: each puts the first place for its piece into its field, clear of the
 // form's other piece (and an FF behind each); one beside a text field asks for the message first and
-// keeps it for the insert. Each press returns what its field shows then.
+// keeps it for the insert (the windows' test shows it there). Each press returns what its field shows then.
 TEST(FreeSpaceTest, EachButtonFindsRoomForItsPieceOrSaysThereIsNone) {
   const struct {
     std::function<std::string(Builder&)> press;
@@ -426,13 +412,7 @@ TEST(FreeSpaceTest, EachButtonFindsRoomForItsPieceOrSaysThereIsNone) {
     EXPECT_EQ(b.dialogs.MessageTexts(), *row.said ? std::vector<std::string>{row.said} : std::vector<std::string>{});
     EXPECT_THAT(oracle.Changes(), IsEmpty());
   }
-  Builder b;  // the insert shows the message kept by the button; a field that is no offset is named
-  b.dialogs.inputAnswers = {"AB", "AB"};
-  b.dialogs.messageAnswers = {MessageAnswer::Yes};  // over the script's place
-  PressFindTextSpace(b.form4, b.rom, b.dialogs);
-  b.Insert(4);
-  ASSERT_EQ(b.dialogs.inputs.size(), 2u);
-  EXPECT_EQ(b.dialogs.inputs[0].initial + "|" + b.dialogs.inputs[1].initial, "|AB");
+  Builder b;  // a field that is no offset is named
   b.form3.Text3.text = "xyz";
   EXPECT_THAT(FailureOf([&] { PressFindScriptSpace(b.form3, b.rom, b.dialogs); }), HasSubstr("Offset: \"xyz\""));
 }

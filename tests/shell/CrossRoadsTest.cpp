@@ -1,8 +1,6 @@
 // Roads that cross windows and files: what one tool, an Open ROM or another program does
 // between a form's load and its action. Each road ends with the sentence it must say (or
 // none) and the exact bytes the file may have changed, by the whole-file byte oracle.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
@@ -10,17 +8,11 @@
 
 #include "events/EventWords.h"
 #include "rom/FilePath.h"
-#include "support/ByteOracle.h"
-#include "support/EventFixtures.h"
-#include "support/MainSession.h"
+#include "support/Tests.h"
 #include "support/WriteLimit.h"
 
 namespace tessarine {
 namespace {
-
-using test::ByteRange;
-using test::FixtureRom;
-using ::testing::HasSubstr;
 
 // The program with no windows, on one file whose bytes the roads change as other programs do.
 struct Desk : test::MainSession {

@@ -1,25 +1,16 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <regex>
 #include <tuple>
 
 #include "editors/NameEditors.h"
 #include "rom/HexField.h"
 #include "shell/ScriptForms.h"
-#include "support/ByteOracle.h"
-#include "support/EventFixtures.h"
-#include "support/MainSession.h"
+#include "support/Tests.h"
 
 namespace tessarine {
 namespace {
 
 using test::EventFixtureRom;
-using test::FixtureRom;
 using test::FixtureSpeciesName;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using Window = test::ScriptedDialogs::WindowEvent;
 
 // What an open leaves of the main window, in one line: the "RomCode:" line, rom, cowmoo, Label20,
@@ -116,16 +107,12 @@ TEST(OpenRomTest, AnUnknownGameHidesTheMainWindowAndAsksForItsTables) {
     EXPECT_THAT(s.form.Combo1.rows, IsEmpty());
     EXPECT_EQ(OpenState(s.form), row.code + std::regex_replace(rubyState, std::regex("frlgl-"), "frlgl-x") +
                                      "x Combo4-x Combo5-x Command2+ Command9+x Command10+x");
+    s.dialogs.windowEvents.clear();  // Quit, like Continue, brings the main window back
+    PressQuit(s.session.form9, s.dialogs);
+    EXPECT_THAT(s.dialogs.windowEvents, ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
     s.Open(ruby.path());
     EXPECT_EQ(OpenState(s.form), "AXVE" + rubyState + " Combo4- Combo5- Command2+ Command9+ Command10+");
   }
-}
-
-// Quit, like Continue, brings the main window back (what Continue keeps, the name editors use).
-TEST(OpenRomTest, TheUnsupportedRomDialogsQuitBringsTheMainWindowBack) {
-  test::MainSession s;
-  PressQuit(s.session.form9, s.dialogs);
-  EXPECT_THAT(s.dialogs.windowEvents, ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
 }
 
 TEST(ToolsMenuTest, EachEntryOpensItsWindowOnceItsGuardLetsIt) {

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstring>
 #include <fstream>
@@ -13,26 +11,20 @@
 #include "rom/HexField.h"
 #include "scripts/ListScript.h"
 #include "shell/ScriptForms.h"
-#include "support/ByteOracle.h"
-#include "support/EventFixtures.h"
-#include "support/MainSession.h"
 #include "support/ReadOnlyFile.h"
+#include "support/Tests.h"
 #include "support/WriteLimit.h"
 #include "text/Braille2Text.h"
 #include "text/Table2Text.h"
 #include "text/mdlTextSapp.h"
 
 #ifndef _WIN32
-#include <signal.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 #endif
 
 namespace tessarine {
 namespace {
 
-using test::ByteRange;
 using Ranges = std::vector<ByteRange>;
 
 // Every table of the six games lies below 6 MiB; the fixtures' event scripts in free space move down to 5 MiB.
@@ -374,42 +366,6 @@ TEST_P(BrokenRomTest, OnAPipeOrWhereTheSystemRefusesWritesEveryButtonSaysWhyAndW
        "^$|No ROM is open"},
       {"the system refuses every write", [&](User&) { limit.emplace(0); }, "File too large"},
   });
-#endif
-}
-
-// A process saves an event, inserts a script or saves a landing tile, and is killed outright
-// (SIGKILL) as soon as that returns, with the ROM still open: what it wrote is in the file all
-// the same, byte for byte as the same actions leave it in a process that lives on.
-TEST(UserRoadsTest, WhatASaveWroteIsInTheFileWhenTheProcessIsKilledRightAfter) {
-#ifdef _WIN32
-  GTEST_SKIP() << "Windows has no fork";
-#else
-  test::FixtureRom killed = RoadRom({"AXPE", 0});
-  test::FixtureRom lived = RoadRom({"AXPE", 0});
-  const std::vector<std::vector<std::string_view>> roads = {
-      {"pick an event", "pick and type in the event fields", "save the event"},
-      {"insert a gift"},
-      {"save a landing tile"}};
-  for (std::uint32_t seed = 0; seed < roads.size(); ++seed) {
-    const auto walk = [&](const std::string& path, bool dies) {
-      User user(seed, true);
-      user.Open(path);
-      std::string sentences;
-      for (const std::string_view action : roads[seed]) sentences += user.Do(action);
-      if (dies) kill(getpid(), SIGKILL);
-      return sentences;
-    };
-    const Bytes before = test::ReadWholeFile(killed.path());
-    const pid_t child = fork();
-    if (child == 0) walk(killed.path(), true);
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
-    EXPECT_EQ(walk(lived.path(), false), "");
-    const Bytes after = test::ReadWholeFile(killed.path());
-    EXPECT_NE(after, before) << roads[seed].back();
-    EXPECT_EQ(after, test::ReadWholeFile(lived.path())) << roads[seed].back();
-  }
 #endif
 }
 
