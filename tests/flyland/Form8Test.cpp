@@ -1,41 +1,23 @@
 #include "flyland/Form8.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <utility>
 
 #include "flyland/FlyRecords.h"
 #include "flyland/MapImages.h"
 #include "flyland/MapView.h"
 #include "rom/RomImage.h"
-#include "support/ByteOracle.h"
-#include "support/Failures.h"
-#include "support/FixtureRom.h"
-#include "support/MainSession.h"
-#include "support/ScriptedDialogs.h"
+#include "support/Tests.h"
 
 namespace tessarine {
 namespace {
 
-using test::ByteOracle;
-using test::ByteRange;
-using test::FailureOf;
-using test::FixtureRom;
-using test::ScriptedDialogs;
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-
 // Each game's record at its own place: bank at +2, level at +3, X at +4, Y at +6. The
 // records beside it hold other bytes, so a record taken from the wrong place shows.
 TEST(FlyRecordsTest, EachGameReadsItsRecordFromItsOwnTable) {
-  const std::tuple<GameIdentity, int, std::size_t> cases[] = {
-      {{"AXPE", 0}, 0, 0x3E5A86},  {{"AXPE", 0}, 19, 0x3E5B1E}, {{"AXVE", 0}, 17, 0x3E5AB6}, {{"BPRE", 0}, 8, 0x3EEC36},
-      {{"BPGE", 0}, 0, 0x3EEA32},  {{"BPEJ", 1}, 3, 0x57B132},  {{"AXVE", 1}, 0, 0x3E5A4A},  {{"AXVE", 2}, 17, 0x3E5AD2},
-      {{"AXPE", 2}, 19, 0x3E5B3E}, {{"BPRE", 1}, 8, 0x3EECA6},  {{"BPGE", 1}, 0, 0x3EEAA2},
-      {{"BPEE", 0}, 19, 0x59F5E2}};
+  std::vector<std::tuple<GameIdentity, int, std::size_t>> cases = {{{"BPEJ", 1}, 3, 0x57B132}};  // any revision
+  for (const GameIdentity& game : test::AllGames()) {
+    for (const int index : {0, 19}) cases.emplace_back(game, index, test::OffsetsOf(game).flyTable + 8 * index);
+  }
   for (const auto& [game, index, offset] : cases) {
     SCOPED_TRACE(ShownIdentity(game) + " " + std::to_string(index));
     FixtureRom fixture(game.code);
@@ -45,8 +27,7 @@ TEST(FlyRecordsTest, EachGameReadsItsRecordFromItsOwnTable) {
     const auto record = ReadFlyRecord(rom, game, index);
     ASSERT_TRUE(record.has_value());
     EXPECT_EQ(BankText(record->bank) + LevelText(record->level), "B:1AL:0");
-    EXPECT_EQ(record->X, 0x2B);
-    EXPECT_EQ(record->Y, 0x3C);
+    EXPECT_EQ(record->X * 0x100 + record->Y, 0x2B3C);
   }
   RomImage closed;  // an unknown game has no table: not even a closed file is asked
   EXPECT_FALSE(ReadFlyRecord(closed, {"axpe", 0}, 0).has_value());
@@ -56,24 +37,23 @@ TEST(FlyRecordsTest, EachGameReadsItsRecordFromItsOwnTable) {
 
 TEST(Form8Test, TheWindowOpensByTheGameCode) {
   const std::string hoenn = "Battle Tower, Southern Island";
-  const std::tuple<const char*, bool, MapPicture, const char*, bool, std::string> cases[] = {
-      // code, kanto on show, picture, Text1 and HScroll1.Max, controls of a record enabled, its records 18 and 19
-      {"AXVE", false, MapPicture::Picture2, "&H14 10", true, hoenn},
-      {"BPEJ", false, MapPicture::Picture3, "&H14 10", true, hoenn},
-      {"BPEE", false, MapPicture::Picture3, "&H14 10", true, "Southern Island, Battle Frontier"},
-      {"BPGE", true, MapPicture::Picture4, "&H18 12", true, "Seven Island, Six Island"},
-      {"bpre", false, MapPicture::Picture2, "&H14 10", false, hoenn},
-      {"AXVE 3", false, MapPicture::Picture2, "&H14 10", false, hoenn}};  // a revision of no known table
-  for (const auto& [code, kanto, picture, across, enabled, last] : cases) {
-    SCOPED_TRACE(code);
+  const std::tuple<GameIdentity, bool, MapPicture, const char*, bool, std::string> cases[] = {
+      // game, kanto on show, picture, Text1 and HScroll1.Max, controls of a record enabled, its records 18 and 19
+      {{"AXVE", 0}, false, MapPicture::Picture2, "&H14 10", true, hoenn},
+      {{"BPEJ", 0}, false, MapPicture::Picture3, "&H14 10", true, hoenn},
+      {{"BPEE", 0}, false, MapPicture::Picture3, "&H14 10", true, "Southern Island, Battle Frontier"},
+      {{"BPGE", 0}, true, MapPicture::Picture4, "&H18 12", true, "Seven Island, Six Island"},
+      {{"bpre", 0}, false, MapPicture::Picture2, "&H14 10", false, hoenn},
+      {{"AXVE", 3}, false, MapPicture::Picture2, "&H14 10", false, hoenn}};  // a revision of no known table
+  for (const auto& [game, kanto, picture, across, enabled, last] : cases) {
+    SCOPED_TRACE(ShownIdentity(game));
     Form8 form;
     ScriptedDialogs dialogs;
     Form1 main;
-    main.headtxt = std::string(code).substr(0, 4);
-    main.revision = code[4] == ' ' ? code[5] - '0' : 0;
+    main.headtxt = game.code;
+    main.revision = game.revision;
     LoadForm8(form, main, dialogs);
-    EXPECT_EQ(form.kanto.visible, kanto);
-    EXPECT_EQ(form.hoenn.visible, !kanto);
+    EXPECT_EQ(std::pair(form.kanto.visible, form.hoenn.visible), std::pair(kanto, !kanto));
     const std::vector<std::string>& rows = (kanto ? form.kanto : form.hoenn).rows;
     EXPECT_EQ(rows.at(18) + ", " + rows.at(19), last);
     EXPECT_EQ(form.Picture2.picture, picture);
@@ -92,20 +72,11 @@ TEST(Form8Test, TheWindowOpensByTheGameCode) {
 // Wingfall open on a Ruby fixture whose record 0 and second "Ever Grande City" hold landings.
 struct Wingfall : ::testing::Test {
   static constexpr std::size_t kFirst = 0x3E5A2E;
-  test::FixtureRom fixture = test::FixtureRom::Ruby();
-  test::MainSession s;
-  RomImage& rom = s.rom;
-  ScriptedDialogs& dialogs = s.dialogs;
-  Form8 form;
-
-  void SetUp() override {
-    fixture.PutBytes(kFirst, {0x11, 0x22, 0x1A, 0x00, 0x05, 0x66, 0x07, 0x88});
-    fixture.PutBytes(0x3E5AB6, {0, 0, 0x02, 0x0C, 0x21, 0, 0x13, 0});
-    s.Open(fixture.path());
-    LoadForm8(form, s.form, dialogs);
-  }
-  void TearDown() override { rom.Close(); }
-  void Save() { PressSavebutton(form, rom, s.form, dialogs); }
+  test::MainSession s{std::move(FixtureRom::Ruby()
+                                    .PutBytes(kFirst, {0x11, 0x22, 0x1A, 0x00, 0x05, 0x66, 0x07, 0x88})
+                                    .PutBytes(0x3E5AB6, {0, 0, 0x02, 0x0C, 0x21, 0, 0x13, 0}))};
+  Form8& form = s.session.form8;
+  void SetUp() override { LoadForm8(form, s.form, s.dialogs); }
   // The fields and the landing markers, as "B:1A L:0 &H5 &H7 at 80,112".
   std::string Landing() const {
     EXPECT_TRUE(form.Shape2.visible && form.Image1.visible);
@@ -116,11 +87,10 @@ struct Wingfall : ::testing::Test {
 };
 
 TEST_F(Wingfall, LoadRightAfterOpeningTakesRecord0AndAPickLoadsAtOnce) {
-  PressLoadbutton(form, rom, s.form);
+  PressLoadbutton(form, s.rom, s.form);
   EXPECT_EQ(Landing(), "B:1A L:0 &H5 &H7 at 80,112");
-  SelectLocation(form, rom, s.form, FlyList::hoenn, 17);
-  EXPECT_EQ(form.hoenn.text, "Ever Grande City");
-  EXPECT_EQ(form.mapnumber, "17");
+  SelectLocation(form, s.rom, s.form, FlyList::hoenn, 17);
+  EXPECT_EQ(form.hoenn.text + " " + form.mapnumber, "Ever Grande City 17");
   EXPECT_EQ(Landing(), "B:2 L:C &H21 &H13 at 528,304");
 }
 
@@ -129,32 +99,32 @@ TEST_F(Wingfall, LoadRightAfterOpeningTakesRecord0AndAPickLoadsAtOnce) {
 TEST_F(Wingfall, SaveWritesTheTypedTileAndShowsWhatTheRomNowHoldsOrNothing) {
   const struct {
     const char *x, *y;
-    std::vector<ByteRange> changed;
+    test::WrittenRuns written;
     const char* shown;  // the landing after the save; when nothing changed, part of the sentence
   } rows[] = {
-      {"&H00", "&H00", {{kFirst + 4, 1}, {kFirst + 6, 1}}, "B:1A L:0 &H0 &H0 at 0,0"},  // the start texts
-      {"&H1F", "&H20", {{kFirst + 4, 1}, {kFirst + 6, 1}}, "B:1A L:0 &H1F &H20 at 496,512"},
-      {"31", "7", {{kFirst + 4, 1}}, "B:1A L:0 &H1F &H7 at 496,112"},
-      {"&HFF", " &h7 ", {{kFirst + 4, 1}}, "B:1A L:0 &HFF &H7 at 4080,112"},
+      {"&H00", "&H00", {{kFirst + 4, "00"}, {kFirst + 6, "00"}}, "B:1A L:0 &H0 &H0 at 0,0"},  // the start texts
+      {"&H1F", "&H20", {{kFirst + 4, "1F"}, {kFirst + 6, "20"}}, "B:1A L:0 &H1F &H20 at 496,512"},
+      {"31", "7", {{kFirst + 4, "1F"}}, "B:1A L:0 &H1F &H7 at 496,112"},
+      {"&HFF", " &h7 ", {{kFirst + 4, "FF"}}, "B:1A L:0 &HFF &H7 at 4080,112"},
       {"&H100", "&H20", {}, "X: \"&H100\" is not a byte. Type a number"},
       {"&H1F", "abc", {}, "Y: \"abc\" is not a byte. Type a number"},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(std::string(row.x) + " / " + row.y);
-    rom.WriteBytes(kFirst + 4, Bytes{0x05, 0x66, 0x07});
-    const ByteOracle oracle(fixture.path());
-    dialogs.messages.clear();
+    s.rom.WriteBytes(kFirst + 4, Bytes{0x05, 0x66, 0x07});
+    const ByteOracle oracle(s.fixture->path());
+    s.dialogs.messages.clear();
     form.XXt.text = row.x;
     form.YYt.text = row.y;
-    const std::string failure = FailureOf([&] { Save(); });
-    EXPECT_EQ(oracle.Changes(), row.changed);
-    if (row.changed.empty()) {
+    const std::string failure = FailureOf([&] { PressSavebutton(form, s.rom, s.form, s.dialogs); });
+    EXPECT_EQ(oracle.Written(), row.written);
+    if (row.written.empty()) {
       EXPECT_THAT(failure, AllOf(HasSubstr(row.shown), HasSubstr("Nothing was written.")));
       EXPECT_EQ(form.XXt.text + form.YYt.text, std::string(row.x) + row.y);
-      EXPECT_THAT(dialogs.messages, IsEmpty());
+      EXPECT_THAT(s.dialogs.messages, IsEmpty());
     } else {
       EXPECT_EQ(failure, "");
-      EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("Saved"));
+      EXPECT_THAT(s.dialogs.MessageTexts(), ElementsAre("Saved"));
       EXPECT_EQ(Landing(), row.shown);
     }
   }
@@ -166,36 +136,29 @@ constexpr MapSizeField T1 = MapSizeField::Text1, T2 = MapSizeField::Text2;
 Form8 TwentyByTwenty() {
   Form8 form;
   SetMapSizeText(form, T1, "&H14");
-  SetMapSizeText(form, MapSizeField::Text2, "&H14");
+  SetMapSizeText(form, T2, "&H14");
   return form;
 }
 
+// The surface, the tile counts (op, op2) and the scroll ranges, as "640x320 40/20 20,10".
+std::string Sizes(const Form8& f) {
+  return std::to_string(f.Picture2.Width) + "x" + std::to_string(f.Picture2.Height) + " " + f.op + "/" + f.op2 + " " +
+         std::to_string(f.HScroll1.Max) + "," + std::to_string(f.VScroll1.Max);
+}
+
 TEST(MapViewTest, ASizeFieldSetsItsSideWhenItIsANumberAndTheScrollRangesAlways) {
-  struct Case {
-    MapSizeField field;
-    const char* text;
-    int width, height;
-    const char* ops;  // op and op2
-    int hMax, vMax;
+  const std::tuple<MapSizeField, const char*, const char*> cases[] = {
+      {T1, "&H28", "640x320 40/20 20,10"},   {T1, "21", "336x320 21/20 10,10"},  {T1, "23", "368x320 23/20 12,10"},
+      {T1, "abc", "320x320 0/20 0,10"},      {T1, "12x", "320x320 12/20 6,10"},  {T1, "0", "0x320 0/20 0,10"},
+      {T1, "4094", "65504x320 4094/20 2047,10"}, {T1, "4095", "320x320 4095/20 2048,10"},
+      {T1, "65534", "320x320 65534/20 32767,10"},
+      {T1, "65535", "320x320 65535/20 10,10"},  // a half beyond 16 bits: Max stays
+      {T2, "&H1E", "320x480 20/30 10,15"},   {T2, "&H7", "320x112 20/7 10,4"},
   };
-  const Case cases[] = {
-      {T1, "&H28", 640, 320, "40/20", 20, 10}, {T1, "21", 336, 320, "21/20", 10, 10},
-      {T1, "23", 368, 320, "23/20", 12, 10},   {T1, "abc", 320, 320, "0/20", 0, 10},
-      {T1, "12x", 320, 320, "12/20", 6, 10},   {T1, "0", 0, 320, "0/20", 0, 10},
-      {T1, "4094", 65504, 320, "4094/20", 2047, 10}, {T1, "4095", 320, 320, "4095/20", 2048, 10},
-      {T1, "65534", 320, 320, "65534/20", 32767, 10},
-      {T1, "65535", 320, 320, "65535/20", 10, 10},  // a half beyond 16 bits: Max stays
-      {T2, "&H1E", 320, 480, "20/30", 10, 15}, {T2, "&H7", 320, 112, "20/7", 10, 4},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.text);
+  for (const auto& [field, text, sizes] : cases) {
     Form8 form = TwentyByTwenty();
-    SetMapSizeText(form, c.field, c.text);
-    EXPECT_EQ(form.Picture2.Width, c.width);
-    EXPECT_EQ(form.Picture2.Height, c.height);
-    EXPECT_EQ(form.op + "/" + form.op2, c.ops);
-    EXPECT_EQ(form.HScroll1.Max, c.hMax);
-    EXPECT_EQ(form.VScroll1.Max, c.vMax);
+    SetMapSizeText(form, field, text);
+    EXPECT_EQ(Sizes(form), sizes) << text;
   }
 }
 
@@ -277,9 +240,8 @@ TEST(MapViewTest, ANewPictureSetsTheMapSizeByTheFitRuleTheSameEachTime) {
       pictures.next = image;
       LoadMapImageFile(form, dialogs, pictures);
       EXPECT_EQ(form.Text1.text + form.Text2.text, texts);
-      EXPECT_EQ(std::pair(form.Picture2.Width, form.Picture2.Height), std::pair(width, height));
-      EXPECT_EQ(form.Picture2.picture, MapPicture::Brought);
-      EXPECT_EQ(form.Picture2.pictureNumber, time);
+      EXPECT_EQ(std::tuple(form.Picture2.Width, form.Picture2.Height, form.Picture2.picture, form.Picture2.pictureNumber),
+                std::tuple(width, height, MapPicture::Brought, time));
     }
   }
   // A file refused says why; the picture stays and the size fields come back from the surface.

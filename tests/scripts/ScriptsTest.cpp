@@ -1,8 +1,5 @@
 #include "scripts/ListScript.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <array>
 #include <functional>
@@ -10,26 +7,11 @@
 #include "forms/FreeSpace.h"
 #include "forms/ListRows.h"
 #include "rom/HexField.h"
-#include "scripts/Form5.h"
 #include "scripts/ScriptBuilders.h"
-#include "scripts/WildBattleForms.h"
-#include "support/ByteOracle.h"
-#include "support/Failures.h"
-#include "support/FixtureRom.h"
-#include "support/MainSession.h"
-#include "support/ScriptedDialogs.h"
+#include "support/Tests.h"
 
 namespace tessarine {
 namespace {
-
-using test::ByteOracle;
-using test::ByteRange;
-using test::FailureOf;
-using test::FixtureRom;
-using test::ScriptedDialogs;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 std::string Repeat(std::string_view text, std::size_t times) {
   std::string out;
@@ -95,42 +77,33 @@ TEST(ListScriptTest, ListsEachCommandAndBrailleCellByItsRules) {
   }
 }
 
-// The press of Load: Text4 takes a whole listing, and keeps its text when the offset is refused.
+// The press of Load: Text4 takes a whole listing, and keeps its text when the offset is refused: by
+// "Offset Bad" where the text is exactly that of a null pointer, else by a sentence.
 TEST(ListScriptTest, ThePressReplacesText4OnlyWithAWholeListing) {
   FixtureRom fixture("AXPE", 0x100);
   fixture.PutBytes(0x40, {0x6A, 0x02});
   RomImage rom;
   rom.Open(fixture.path());
-  Form1 form;
-  ScriptedDialogs ui;
-  const auto press = [&](const char* offset, bool braille) {
-    form.Text3.text = offset;
+  const std::tuple<const char*, bool, const char*> rows[] = {
+      {"&H40", false, "lock \r\nend \r\n"}, {"&HF8000000", false, "Offset Bad"}, {"&HF8000000", true, "Offset Bad"},
+      {"&H20zz", true, "Offset: \"&H20zz\" is not an offset. Type &H and up to 8 hexadecimal digits, or a whole "
+                       "number from -2147483648 to 2147483647. Nothing was listed."},
+      // The same number written otherwise lies before the start.
+      {"&hF8000000", false, "The offset &HF8000000 lies before the start of the ROM, so nothing was read or written "
+                            "there. Nothing was listed."},
+      {"-1", false, "The offset &HFFFFFFFF lies before the start of the ROM, so nothing was read or written there. "
+                    "Nothing was listed."},
+  };
+  for (const auto& [text, braille, said] : rows) {
+    Form1 form;
+    form.Text3.text = text;
     form.Check1.checked = braille;
     form.Text4.text = "what was there";
-    ui.messages.clear();
-    return ListIntoText4(form, rom, ui);
-  };
-  EXPECT_TRUE(press("&H40", false));
-  EXPECT_EQ(form.Text4.text, "lock \r\nend \r\n");
-  const struct {
-    const char* text;
-    bool braille;
-    const char* failure;  // "": the person is told "Offset Bad"
-  } rows[] = {
-      {"&HF8000000", false, ""}, {"&HF8000000", true, ""},
-      {"&H20zz", true,
-       "Offset: \"&H20zz\" is not an offset. Type &H and up to 8 hexadecimal digits, or a whole number from "
-       "-2147483648 to 2147483647. Nothing was listed."},
-      // The refusal compares the text exactly; the same number written otherwise lies before the start.
-      {"&hF8000000", false, "Nothing was listed."},
-      {"-1", false,
-       "The offset &HFFFFFFFF lies before the start of the ROM, so nothing was read or written there. "
-       "Nothing was listed."},
-  };
-  for (const auto& [text, braille, failure] : rows) {
-    EXPECT_THAT(FailureOf([&] { EXPECT_FALSE(press(text, braille)); }), HasSubstr(failure)) << text;
-    EXPECT_EQ(form.Text4.text, "what was there");
-    EXPECT_EQ(ui.MessageTexts(), *failure ? std::vector<std::string>{} : std::vector<std::string>{"Offset Bad"});
+    ScriptedDialogs ui;
+    bool listed = false;
+    const std::string told = FailureOf([&] { listed = ListIntoText4(form, rom, ui); });
+    EXPECT_EQ(listed ? form.Text4.text : told + (ui.messages.empty() ? "" : ui.messages[0].text), said) << text;
+    EXPECT_EQ(form.Text4.text == "what was there", !listed) << text;
   }
 }
 
@@ -164,164 +137,104 @@ constexpr std::size_t kT = 0x7A0000;  // text offset
 // A ROM whose free space at kS and kT holds 0x11, so that every byte a builder writes
 // there shows as a change, and forms filled in as a person would.
 struct Builder : test::MainSession {
-  test::FixtureRom fixture;
   Form3 form3;
   Form4 form4;
   Form5 form5;
 
-  explicit Builder(test::FixtureRom rom = test::FixtureRom::Sapphire()) : fixture(std::move(rom)) {
-    fixture.PutBytes(kS, Bytes(0x100, 0x11)).PutBytes(kT, Bytes(0x10, 0x11));
-    Open(fixture.path());
-    const auto fill = [this](auto& form, int species, int item) {
-      form.filled.Fill(this->form);
-      form.Combo1.rows.resize(412);
-      form.Combo2.rows.resize(347);
-      SetCombo1Selection(form, species);
-      SetCombo2Selection(form, item);
-      SetCombo3Selection(form, 5);
-      form.Text3.text = "&H700000";
+  explicit Builder(FixtureRom made = FixtureRom::Sapphire())
+      : MainSession(std::move(made.PutBytes(kS, Bytes(0x100, 0x11)).PutBytes(kT, Bytes(0x10, 0x11)))) {
+    const auto fill = [this](auto& f, int species, int item) {
+      f.filled.Fill(form);
+      f.Combo1.rows.resize(412);
+      f.Combo2.rows.resize(347);
+      SetCombo1Selection(f, species);
+      SetCombo2Selection(f, item);
+      SetCombo3Selection(f, 5);
+      f.Text3.text = "&H700000";
     };
     fill(form3, 0x19, 0);
     fill(form4, 0x19, 0x8B);
     fill(form5, 0x176, 0);
     form4.Text12.text = form5.Text12.text = "&H7A0000";
   }
-  ~Builder() { rom.Close(); }
-  void Insert(Form3& f) { InsertWildBattle(f, form, rom, dialogs); }
-  void Insert(Form4& f) { InsertWildBattle(f, form, rom, dialogs); }
-  void Insert(Form5& f) { InsertGivePokemon(f, form, rom, dialogs); }
-  void Insert(int which) { which == 3 ? Insert(form3) : which == 4 ? Insert(form4) : Insert(form5); }
-  std::string At(const ByteOracle& oracle, std::size_t at, std::size_t count) const {
-    const Bytes now = oracle.Now();
-    return test::ToHex(Bytes(now.begin() + static_cast<long>(at), now.begin() + static_cast<long>(at + count)));
-  }
-  std::string List(std::size_t at) {
-    return ListScript(rom, dialogs, ToHexText(static_cast<std::int32_t>(at)), false).value_or("");
+  void Insert(int which) {
+    if (which == 3) InsertWildBattle(form3, form, rom, dialogs);
+    if (which == 4) InsertWildBattle(form4, form, rom, dialogs);
+    if (which == 5) InsertGivePokemon(form5, form, rom, dialogs);
   }
 };
 
-TEST(ScriptBuildersTest, AWildBattleIsThirteenBytesAndListsAsFiveLines) {
-  Builder b;
-  b.dialogs.messageAnswers = {MessageAnswer::Yes};
-  const ByteOracle oracle(b.fixture.path());
-  b.Insert(b.form3);
-  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 13}}));
-  EXPECT_EQ(b.At(oracle, kS, 13), "6A 5A B6 19 00 05 00 00 30 A1 19 00 02");
-  EXPECT_THAT(b.dialogs.MessageTexts(),
-              ElementsAre("The 13 bytes at &H700000 are not free space: 13 of them are not FF. Write over them?",
-                          "Inserted"));
-  EXPECT_EQ(b.dialogs.messages[0].buttons, MessageButtons::YesNo);
-  EXPECT_THAT(b.dialogs.windowEvents, ElementsAre(ScriptedDialogs::WindowEvent{WindowName::Form3, false}));
-  EXPECT_EQ(b.List(kS), "lock \r\nfaceplayer \r\nwildpkmnbattle: &H19 &H5 &H0\r\ncry  &H19\r\nend \r\n");
-}
-
-TEST(ScriptBuildersTest, AWildBattleWithAMessageWritesTheScriptThenAsksThenWritesTheText) {
-  for (const std::optional<std::string>& answer : {std::optional<std::string>("AB"), std::optional<std::string>()}) {
-    Builder b;
-    b.form4.crytxt.text = "&HFFFF";  // typed over the list's number
-    b.dialogs.inputAnswers = {answer};
-    b.dialogs.messageAnswers = {MessageAnswer::Yes, MessageAnswer::Yes};  // the script's place, then the text's
-    const ByteOracle oracle(b.fixture.path());
-    b.Insert(b.form4);
-    EXPECT_EQ(b.At(oracle, kS, 20), "6A 5A 0F 00 00 7A 08 09 06 B6 19 00 05 8B 00 30 A1 FF FF 02");
-    EXPECT_EQ(b.At(oracle, kT, 5), answer ? "BB BC FF 00 11" : "FF 00 11 11 11");  // closed box: FF 00 only
-    EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 20}, {kT, answer ? 4u : 2u}}));
-    ASSERT_EQ(b.dialogs.inputs.size(), 1u);
-    EXPECT_EQ(b.dialogs.inputs[0].title, "Wild Pokemon Message");
-    EXPECT_EQ(b.dialogs.inputs[0].prompt, "Type the Message you would like your Event to have. [N] = Next Line");
-    EXPECT_THAT(b.dialogs.MessageTexts(), ElementsAre(HasSubstr("The 20 bytes at &H700000"),
-                                                      HasSubstr(answer ? "The 4 bytes at &H7A0000" : "The 2 bytes"),
-                                                      "Inserted"));
-    EXPECT_EQ(b.List(kS), "lock \r\nfaceplayer \r\nmsgbox  &H87A0\r\nboxset &H6\r\nwildpkmnbattle: &H19 &H8B05 &H0\r\n"
-                          "cry  &HFFFF\r\nend \r\n");
-  }
-}
-
-TEST(ScriptBuildersTest, AGivePokemonBlockOverlapsAsLaidOutAndEachPointerHoldsItsPiece) {
-  Builder b;
-  b.dialogs.inputAnswers = {"AB"};
-  b.dialogs.messageAnswers = {MessageAnswer::Yes, MessageAnswer::Yes};
-  const ByteOracle oracle(b.fixture.path());
-  b.Insert(b.form5);
-  // The body's last two bytes are the declined branch's first two; the gaps keep their bytes;
-  // the declined text shows ten bytes and then the no-room text.
-  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 83}, {kS + 93, 9}, {kS + 103, 48}, {kT, 4}}));
-  EXPECT_EQ(b.At(oracle, kS, 8), "69 0F 00 00 7A 08 09 05");
-  EXPECT_EQ(b.At(oracle, kS + 15, 4), "4A 00 70 08");
-  EXPECT_EQ(b.At(oracle, kS + 27, 4), "5D 00 70 08");
-  EXPECT_EQ(b.At(oracle, kS + 46, 6), "79 76 01 05 00 00");
-  EXPECT_EQ(b.At(oracle, kS + 69, 14), "7D 76 01 01 0F 0F 67 00 70 08 09 04 6B 02");
-  EXPECT_EQ(b.At(oracle, kS + 93, 9), "0F 71 00 70 08 09 04 6B 02");
-  EXPECT_EQ(b.At(oracle, kS + 103, 15), "FD 01 00 E0 D9 DA E8 00 E8 DC CE DC D9 E6 D9");
-  EXPECT_EQ(b.At(oracle, kS + 149, 3), "C8 AD 11");  // "N." and no end byte of its own
-  EXPECT_EQ(b.At(oracle, kT, 4), "BB BC FF 00");
-  EXPECT_THAT(b.dialogs.MessageTexts(),  // the block's three runs, then the question's place; no "Inserted"
-              ElementsAre("The 83 bytes at &H700000, the 9 bytes at &H70005D and the 48 bytes at &H700067 are not "
-                          "free space: 140 of them are not FF. Write over them?",
-                          HasSubstr("The 4 bytes at &H7A0000")));
-  EXPECT_THAT(b.dialogs.windowEvents, ElementsAre(ScriptedDialogs::WindowEvent{WindowName::Form5, false}));
-  ASSERT_EQ(b.dialogs.inputs.size(), 1u);
-  EXPECT_EQ(b.dialogs.inputs[0].title, "Give Pokemon Message");
-  EXPECT_THAT(b.dialogs.inputs[0].prompt, HasSubstr("Line| Example: \\v\\h01 checked the POK\xC3\xA9 BALL.\\pIt"));
-
-  const std::string branch = "boxset &H4\r\nByte: &H6B \r\nend \r\n";
-  EXPECT_EQ(b.List(kS), "jingle \r\nmsgbox  &H87A0\r\nboxset &H5\r\ncompare  &H800D &H0\r\nif \r\nByte: &H43 \r\n"
-                        "compare  &H800D &H6\r\nif \r\nByte: &H19 \r\ncall &HD80\r\nend \r\n");
-  EXPECT_EQ(b.List(kS + 74), "msgbox  &H87067\r\n" + branch);  // where the first "if" leads
-  EXPECT_EQ(b.List(kS + 93), "msgbox  &H87071\r\n" + branch);  // where the second leads
-}
-
-// The game-ready layouts from the same fields, on the example battle and a second one (species &H96,
-// level 70, item &H8B, cry &HFFFF, message "A"), in a Sapphire and a FireRed ROM: after the one
-// question (asked once the message is typed) every piece is written, and nothing else.
-TEST(ScriptBuildersTest, GameReadyScriptsAreLaidOutAsTheGamesRunThem) {
-  const auto give = [](std::string fanfare, std::string battle, std::string species) {
+// Each builder's layout from the same fields, byte for byte over the whole file: the Parts' own
+// (the give-Pokemon pieces overlap as laid out: the body's last two bytes are the declined
+// branch's first two, the gaps keep their bytes, and the declined text shows ten bytes and then
+// the no-room text) and the game-ready ones, on the example battle and a second one (species
+// &H96, level 70, item &H8B, cry &HFFFF, message "A", typed over the lists' numbers), in a
+// Sapphire and a FireRed ROM. A message box closed writes FF 00 (own) or FF (game-ready).
+TEST(ScriptBuildersTest, EachLayoutIsWrittenFromTheSameFields) {
+  const std::string declined = "FD 01 00 E0 D9 DA E8 00 E8 DC D9 00 CA C9 C5 1B 00 BC BB C6 C6 00 EB DC D9 E6 D9 FE DD "
+                               "E8 00 EB D5 E7 AD FF";
+  const std::string noRoom = "CE DC D9 E6 D9 00 DD E7 00 E2 E3 00 E7 E4 D5 D7 D9 00 DA E3 E6 00 D5 E2 E3 E8 DC D9 E6 "
+                             "00 CA C9 C5 1B C7 C9 C8 AD";
+  const auto give = [&](std::string fanfare, std::string battle, std::string species) {
     return "69 0F 00 00 00 7A 08 09 05 21 0D 80 00 00 06 01 41 00 70 08 43 21 0D 80 06 00 06 01 4B 00 70 08 19 04 80 "
            "0D 80 53 0F 80 31 " + fanfare + " 32 79 " + battle + " 00 00 00 00 00 00 00 00 00 7D 01 " + species +
-           " 6B 02 0F 00 55 00 70 08 09 04 6B 02 0F 00 79 00 70 08 09 04 6B 02 FD 01 00 E0 D9 DA E8";  // the declined text
+           " 6B 02 0F 00 55 00 70 08 09 04 6B 02 0F 00 79 00 70 08 09 04 6B 02 " + declined + " " + noRoom + " FF";
   };
   const struct {
     int form;
-    bool fireRed, second;
-    std::string atS;
-    const char* atT;
-    std::vector<ByteRange> changes;
+    bool gameReady, fireRed, second;
+    test::WrittenRuns written;
+    std::optional<std::string> message = "AB";
   } rows[] = {
-      {3, false, false, "6A 5A B6 19 00 05 00 00 30 A1 19 00 02 00 C5 B7 6C 02", "11", {{kS, 18}}},
-      {3, true, true, "6A 5A B6 96 00 46 8B 00 30 A1 FF FF 02 00 C5 B7 6C 02", "11", {{kS, 18}}},
-      {4, false, false, "6A 5A 0F 00 00 00 7A 08 09 04 B6 19 00 05 8B 00 30 A1 19 00 02 00 C5 B7 6C 02", "BB BC FF 11",
-       {{kS, 26}, {kT, 3}}},
-      {4, true, true, "6A 5A 0F 00 00 00 7A 08 09 04 B6 96 00 46 8B 00 30 A1 FF FF 02 00 C5 B7 6C 02", "BB FF 11",
-       {{kS, 26}, {kT, 2}}},
-      {5, false, false, give("72 01", "76 01 05 00 00", "76 01"), "BB BC FF 11", {{kS, 160}, {kT, 3}}},
-      {5, true, true, give("01 01", "96 00 46 8B 00", "96 00"), "BB FF 11", {{kS, 160}, {kT, 2}}},
+      {3, false, false, false, {{kS, "6A 5A B6 19 00 05 00 00 30 A1 19 00 02"}}},
+      {4, false, false, true,
+       {{kS, "6A 5A 0F 00 00 7A 08 09 06 B6 96 00 46 8B 00 30 A1 FF FF 02"}, {kT, "BB FF 00"}}, "A"},
+      {4, false, false, false, {{kS, "6A 5A 0F 00 00 7A 08 09 06 B6 19 00 05 8B 00 30 A1 19 00 02"}, {kT, "FF 00"}},
+       std::nullopt},
+      {5, false, false, false, {{kS, "69 0F 00 00 7A 08 09 05 21 0D 80 00 00 06 01 4A 00 70 08 43 21 0D 80 06 00 06 01 5D 00 70 08 19 04 80 "
+                "0D 80 53 02 00 31 72 01 67 61 32 66 79 76 01 05 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 "
+                "00 00 00 7D 76 01 01 0F 0F 67 00 70 08 09 04 6B 02"}, {kS + 93, "0F 71 00 70 08 09 04 6B 02"},
+       {kS + 103, declined.substr(0, 29) + " " + noRoom}, {kT, "BB BC FF 00"}}},
+      {3, true, false, false, {{kS, "6A 5A B6 19 00 05 00 00 30 A1 19 00 02 00 C5 B7 6C 02"}}},
+      {3, true, true, true, {{kS, "6A 5A B6 96 00 46 8B 00 30 A1 FF FF 02 00 C5 B7 6C 02"}}},
+      {4, true, false, false,
+       {{kS, "6A 5A 0F 00 00 00 7A 08 09 04 B6 19 00 05 8B 00 30 A1 19 00 02 00 C5 B7 6C 02"}, {kT, "BB BC FF"}}},
+      {4, true, true, true,
+       {{kS, "6A 5A 0F 00 00 00 7A 08 09 04 B6 96 00 46 8B 00 30 A1 FF FF 02 00 C5 B7 6C 02"}, {kT, "BB FF"}}, "A"},
+      {5, true, false, false, {{kS, give("72 01", "76 01 05 00 00", "76 01")}, {kT, "BB BC FF"}}},
+      {5, true, true, true, {{kS, give("01 01", "96 00 46 8B 00", "96 00")}, {kT, "BB FF"}}, "A"},
   };
   for (const auto& row : rows) {
-    SCOPED_TRACE(row.atS);
-    Builder b(row.fireRed ? test::FixtureRom::FireRed() : test::FixtureRom::Sapphire());
-    b.form3.Check1.checked = b.form4.Check1.checked = b.form5.Check1.checked = true;
+    SCOPED_TRACE(row.written[0].second);
+    Builder b(row.fireRed ? FixtureRom::FireRed() : FixtureRom::Sapphire());
+    b.form3.Check1.checked = b.form4.Check1.checked = b.form5.Check1.checked = row.gameReady;
     if (row.second) {
       for (TextBox* box : {&b.form3.pkmntxt, &b.form4.pkmntxt, &b.form5.pkmntxt}) box->text = "&H96";
       for (TextBox* box : {&b.form3.Text1, &b.form4.Text14, &b.form5.Text1}) box->text = "&H46";
       for (TextBox* box : {&b.form3.Text2, &b.form4.Text2, &b.form5.Text2}) box->text = "&H8B";
       b.form3.crytxt.text = b.form4.crytxt.text = "&HFFFF";
     }
-    b.dialogs.inputAnswers = {row.second ? "A" : "AB"};
-    b.dialogs.messageAnswers = {MessageAnswer::Yes};
-    const ByteOracle oracle(b.fixture.path());
+    b.dialogs.inputAnswers = {row.message};
+    b.dialogs.messageAnswers = {MessageAnswer::Yes, MessageAnswer::Yes};  // over what is not free space
+    const ByteOracle oracle(b.fixture->path());
     b.Insert(row.form);
-    EXPECT_EQ(oracle.Changes(), row.changes);
-    const std::size_t n = test::FromHex(row.atS).size();
-    EXPECT_EQ(b.At(oracle, kS, n), row.atS);
-    EXPECT_EQ(b.At(oracle, kT, test::FromHex(row.atT).size()), row.atT);
-    if (row.form == 5) {  // each text ends in its own FF, the declined one just before the no-room text
-      EXPECT_EQ(b.At(oracle, kS + 119, 2) + " | " + b.At(oracle, kS + 157, 3), "AD FF | C8 AD FF");
-      EXPECT_EQ(GameReadyGivePokemonPieces("e", 1, 2, 3, kS, kT, "Q")[0].bytes,  // Emerald plays Ruby's fanfare
-                GameReadyGivePokemonPieces("rs", 1, 2, 3, kS, kT, "Q")[0].bytes);
+    EXPECT_EQ(oracle.Written(), row.written);
+    const std::string prompt = row.form == 4 ? "Wild Pokemon Message: Type the Message you would like your Event "
+                                               "to have. [N] = Next Line"
+                                             : "Give Pokemon Message: Type the Message you would like your Event to "
+                                               "have. [N] = Next Line| Example: \\v\\h01 checked the POK\xC3\xA9 BALL.";
+    ASSERT_EQ(b.dialogs.inputs.size(), row.form == 3 ? 0u : 1u);
+    if (row.form > 3) {
+      EXPECT_THAT(b.dialogs.inputs[0].title + ": " + b.dialogs.inputs[0].prompt, HasSubstr(prompt));
     }
-    EXPECT_EQ(b.dialogs.inputs.size(), row.form == 3 ? 0u : 1u);
-    EXPECT_EQ(b.dialogs.messages.size(), row.form == 5 ? 1u : 2u);  // the question, and "Inserted"
+    // The questions (game-ready: one, once all is checked), then "Inserted" from the wild battle forms.
+    const std::vector<std::string> asked = b.dialogs.MessageTexts();
+    EXPECT_EQ(asked.size(), (row.gameReady || row.form == 3 ? 1u : 2u) + (row.form == 5 ? 0u : 1u));
+    EXPECT_EQ(asked.back() == "Inserted", row.form != 5);
+    EXPECT_THAT(b.dialogs.windowEvents, ElementsAre(ScriptedDialogs::WindowEvent{std::array{WindowName::Form3, WindowName::Form4, WindowName::Form5}[row.form - 3], false}));
   }
+  EXPECT_EQ(GameReadyGivePokemonPieces("e", 1, 2, 3, kS, kT, "Q")[0].bytes,  // Emerald plays Ruby's fanfare
+            GameReadyGivePokemonPieces("rs", 1, 2, 3, kS, kT, "Q")[0].bytes);
 }
 
 // The one free-space question (No is its default), and the refusals of a game-ready script, with
@@ -333,7 +246,7 @@ TEST(ScriptBuildersTest, NoToTheFreeSpaceQuestionWritesNothingOrSaysWhatWasWritt
     int form;
     bool gameReady;
     std::deque<MessageAnswer> answers;
-    std::vector<::testing::Matcher<std::string>> asked;
+    std::vector<std::string> asked;
     std::vector<ByteRange> changes;
     const char* failure = "";
     std::function<void(Builder&)> set = {};
@@ -350,7 +263,13 @@ TEST(ScriptBuildersTest, NoToTheFreeSpaceQuestionWritesNothingOrSaysWhatWasWritt
        {{kS, 20}},
        "You chose not to write over the bytes that are not free space. Written before it stopped: 20 bytes at "
        "&H700000 (the script). Not written: 4 bytes at &H7A0000 (the message)."},
-      {"own layout, No to the block", 5, false, {No}, {HasSubstr("134 of them are not FF")}, {}, "", {}, 0},
+      {"own layout, a message past the end, checked once typed", 4, false, {Yes}, {"The 20 bytes at &H700000 are not "
+       "free space: 14 of them are not FF. Write over them?"}, {{kS, 4}, {kS + 6, 14}},
+       "Text Offset: \"&HFFFFFD\": the message, 4 bytes from &HFFFFFD, would run past the end of the ROM, which is "
+       "&H1000000 bytes long. Written before it stopped: 20 bytes at &H700000 (the script). Not written: 4 bytes at "
+       "&HFFFFFD (the message).", [](Builder& b) { b.form4.Text12.text = "&HFFFFFD"; }},  // room for FF 00 only
+      {"own layout, No to the block", 5, false, {No}, {"The 83 bytes at &H700000, the 9 bytes at &H70005D and the 48 "
+       "bytes at &H700067 are not free space: 134 of them are not FF. Write over them?"}, {}, "", {}, 0},
       {"game-ready, over free space: no question", 5, true, {}, {}, {{kS + 0x200, 120}, {kS + 0x279, 38}, {kT + 0x100, 2}},
        "", [](Builder& b) { b.form5.Text3.text = "&H700200", b.form5.Text12.text = "&H7A0100"; }},
       {"a script over its own message", 4, true, {}, {}, {},
@@ -359,91 +278,67 @@ TEST(ScriptBuildersTest, NoToTheFreeSpaceQuestionWritesNothingOrSaysWhatWasWritt
       {"cancelled message", 4, true, {}, {}, {}, "", [](Builder& b) { b.dialogs.inputAnswers = {std::nullopt}; }},
       {"a game of no family", 5, true, {}, {}, {}, "the open ROM is none of these games. Untick \"Game-ready script\"",
        [](Builder& b) {  // Japanese Emerald
-         b.fixture.PutBytes(0xAC, test::FromHex("42 50 45 4A")), b.Open(b.fixture.path()), b.form5.filled.Fill(b.form);
+         b.fixture->PutBytes(0xAC, test::FromHex("42 50 45 4A")), b.Open(b.fixture->path()), b.form5.filled.Fill(b.form);
          b.dialogs = ScriptedDialogs();
        }, 0},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.road);
     Builder b;
-    b.fixture.PutBytes(kS, Bytes(6, 0xFF));
+    b.fixture->PutBytes(kS, Bytes(6, 0xFF));
     b.form3.Check1.checked = b.form4.Check1.checked = b.form5.Check1.checked = row.gameReady;
     b.dialogs.inputAnswers = {"AB"};
     if (row.set) row.set(b);
     b.dialogs.messageAnswers = row.answers;
-    const ByteOracle oracle(b.fixture.path());
+    const ByteOracle oracle(b.fixture->path());
     const std::string failure = FailureOf([&] { b.Insert(row.form); });
     EXPECT_THAT(failure, HasSubstr(row.failure));
+    EXPECT_EQ(failure.empty(), *row.failure == '\0');
     EXPECT_EQ(oracle.Changes(), row.changes);
     std::vector<std::string> asked = b.dialogs.MessageTexts();
     std::erase(asked, "Inserted");
-    EXPECT_THAT(asked, ::testing::ElementsAreArray(row.asked));
+    EXPECT_EQ(asked, row.asked);
+    for (const auto& m : b.dialogs.messages) EXPECT_EQ(m.buttons == MessageButtons::YesNo, m.text != "Inserted");
     EXPECT_EQ(b.dialogs.inputs.size(), row.inputs);
     const bool closed = !row.changes.empty() && *row.failure == '\0';  // only once all is written
     EXPECT_EQ(b.dialogs.windowEvents.size(), closed ? 1u : 0u);
   }
 }
 
-// Each case an insert that must write nothing: what is wrong, which form, what is said.
+// Each case an insert that must write nothing, and asks nothing: what is wrong, which form, what is said.
 TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNothing) {
   const struct {
-    const char* field;
     std::function<void(Builder&)> set;
     int form;
     const char* says;
   } refusals[] = {
-      {"species before offset", [](Builder& b) { b.form3.crytxt.text = "x"; b.form3.Text3.text = "?"; }, 3,
-       "PKMN Cry: \"x\""},
-      {"initial offset", [](Builder& b) { b.form3.Text3.text = "&H000000"; }, 3,
+      {[](Builder& b) { b.form3.crytxt.text = "x", b.form3.Text3.text = "?"; }, 3, "PKMN Cry: \"x\""},  // fields first
+      {[](Builder& b) { b.form3.Text3.text = "&H000000"; }, 3,
        "Offset: \"&H000000\" lies inside the cartridge header, &H0 to &HBF,"},
-      {"last header byte", [](Builder& b) { b.form5.Text3.text = "&HBF"; }, 5,
-       "Offset To insert Script: \"&HBF\" lies inside"},
-      {"negative", [](Builder& b) { b.form3.Text3.text = "&HF8000000"; }, 3, "lies before the start of the ROM"},
-      {"text before script", [](Builder& b) { b.form5.Text12.text = "&H0"; b.form5.pkmntxt.text = "?"; }, 5,
-       "Offset to insert new text: \"&H0\""},
-      {"script past the end", [](Builder& b) { b.form3.Text3.text = "&HFFFFF4"; }, 3,
+      {[](Builder& b) { b.form5.Text3.text = "&HBF"; }, 5, "Offset To insert Script: \"&HBF\" lies inside"},
+      {[](Builder& b) { b.form3.Text3.text = "&HF8000000"; }, 3, "lies before the start of the ROM"},
+      {[](Builder& b) { b.form5.Text12.text = "&H0", b.form5.pkmntxt.text = "?"; }, 5,
+       "Offset to insert new text: \"&H0\""},  // the text's offset before the species
+      {[](Builder& b) { b.form3.Text3.text = "&HFFFFF4"; }, 3,
        "the script, 13 bytes from &HFFFFF4, would run past the end of the ROM, which is &H1000000 bytes long"},
-      {"block past the end", [](Builder& b) { b.form5.Text3.text = "&HFFFF6A"; }, 5,
-       "the no-room text, 38 bytes from &HFFFFDB, would run past the end"},
-      {"window of the ROM opened before", [](Builder& b) { b.Open(b.fixture.path()); }, 5,
-       "This window was filled before the last Open ROM"},
-      {"no room for FF 00", [](Builder& b) { b.form4.Text12.text = "&HFFFFFF"; }, 4,
-       "Text Offset: \"&HFFFFFF\": the message, 2 bytes"},
-      {"question past the end", [](Builder& b) { b.form5.Text12.text = "&HFFFFFF"; }, 5, "the question, 2 bytes"},
+      {[](Builder& b) { b.form5.Text3.text = "&HFFFF6A"; }, 5, "the no-room text, 38 bytes from &HFFFFDB, would run"},
+      {[](Builder& b) { b.form4.Text12.text = "&HFFFFFF"; }, 4, "Text Offset: \"&HFFFFFF\": the message, 2 bytes"},
+      {[](Builder& b) { b.form5.Text12.text = "&HFFFFFF"; }, 5, "the question, 2 bytes"},
   };
   for (const auto& r : refusals) {
+    SCOPED_TRACE(r.says);
     Builder b;
     r.set(b);
-    const ByteOracle oracle(b.fixture.path());
-    const std::string said = FailureOf([&] {
-      if (r.form == 3) b.Insert(b.form3);
-      if (r.form == 4) b.Insert(b.form4);
-      if (r.form == 5) b.Insert(b.form5);
-    });
-    EXPECT_THAT(said, HasSubstr(r.says)) << r.field;
-    EXPECT_THAT(said, HasSubstr("Nothing was written.")) << r.field;
-    EXPECT_THAT(oracle.Changes(), IsEmpty()) << r.field;
-    EXPECT_THAT(b.dialogs.inputs, IsEmpty()) << r.field;
-    EXPECT_THAT(b.dialogs.windowEvents, IsEmpty()) << r.field;
+    const ByteOracle oracle(b.fixture->path());
+    EXPECT_THAT(FailureOf([&] { b.Insert(r.form); }), AllOf(HasSubstr(r.says), HasSubstr("Nothing was written.")));
+    EXPECT_THAT(oracle.Changes(), IsEmpty());
+    EXPECT_THAT(b.dialogs.inputs, IsEmpty());
+    EXPECT_THAT(b.dialogs.windowEvents, IsEmpty());
   }
   Builder b;  // the first offset behind the header is free to use
   b.form3.Text3.text = "&HC0";
-  b.Insert(b.form3);
+  b.Insert(3);
   EXPECT_EQ(b.dialogs.windowEvents.size(), 1u);
-}
-
-TEST(ScriptBuildersTest, AMessageThatDoesNotFitIsRefusedAfterTheScriptAndSaysSo) {
-  Builder b;
-  b.form4.Text12.text = "&HFFFFFD";  // room for FF 00, not for "AB" and FF 00
-  b.dialogs.inputAnswers = {"AB"};
-  b.dialogs.messageAnswers = {MessageAnswer::Yes};
-  const ByteOracle oracle(b.fixture.path());
-  EXPECT_EQ(FailureOf([&] { b.Insert(b.form4); }),
-            "Text Offset: \"&HFFFFFD\": the message, 4 bytes from &HFFFFFD, would run past the end of the ROM, "
-            "which is &H1000000 bytes long. Written before it stopped: 20 bytes at &H700000 (the script). Not "
-            "written: 4 bytes at &HFFFFFD (the message).");
-  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 20}}));
-  EXPECT_THAT(b.dialogs.windowEvents, IsEmpty());  // the form stays open
 }
 
 // Runs of FF in a ROM of 00 bytes: the finder takes the first multiple of 4 at or after the start
@@ -479,54 +374,45 @@ TEST(FreeSpaceTest, FindsTheFirstAlignedRunWithOneFFBehind) {
 }
 
 // The "Find Free Space" buttons: each puts the first place for its piece into its field, clear of the
-// form's other piece; one beside a text field asks for the message first and keeps it for the insert.
+// form's other piece (and an FF behind each); one beside a text field asks for the message first and
+// keeps it for the insert (the windows' test shows it there). Each press returns what its field shows then.
 TEST(FreeSpaceTest, EachButtonFindsRoomForItsPieceOrSaysThereIsNone) {
   const struct {
-    const char* button;
-    std::function<void(Builder&)> press;
-    std::function<std::string(Builder&)> field;
+    std::function<std::string(Builder&)> press;
     const char* shows;
     const char* said = "";
   } rows[] = {
-      {"Form3 script", [](Builder& b) { PressFindScriptSpace(b.form3, b.rom, b.dialogs); },
-       [](Builder& b) { return b.form3.Text3.text; }, "&H700100"},
-      {"Form4 text", [](Builder& b) { PressFindTextSpace(b.form4, b.rom, b.dialogs); },
-       [](Builder& b) { return b.form4.Text12.text + b.form4.keptMessage; }, "&H7A0010AB"},
-      {"Form4 script clear of its text",
-       [](Builder& b) { b.form4.Text12.text = "&H700100", PressFindScriptSpace(b.form4, b.rom, b.dialogs); },
-       [](Builder& b) { return b.form4.Text3.text; }, "&H700104"},  // behind FF 00 and one FF
-      {"Form5 game-ready block clear of its question",
-       [](Builder& b) {
-         b.form5.Check1.checked = true, b.form5.Text12.text = "&H700180";
-         PressFindScriptSpace(b.form5, b.rom, b.dialogs);
-       },
-       [](Builder& b) { return b.form5.Text3.text; }, "&H700184"},
-      {"Form5 question", [](Builder& b) { PressFindTextSpace(b.form5, b.rom, b.dialogs); },
-       [](Builder& b) { return b.form5.Text12.text; }, "&H7A0010"},
-      {"none", [](Builder& b) { b.form3.Text3.text = "&HFFFFF4", PressFindScriptSpace(b.form3, b.rom, b.dialogs); },
-       [](Builder& b) { return b.form3.Text3.text; }, "&HFFFFF4",
-       "Offset: no free space at or after &HFFFFF4 holds the script (13 bytes of FF and one more behind them). The "
-       "field keeps its text."},
-      {"cancelled", [](Builder& b) { b.dialogs.inputAnswers = {std::nullopt}, PressFindTextSpace(b.form4, b.rom, b.dialogs); },
-       [](Builder& b) { return b.form4.Text12.text; }, "&H7A0000"},
+      {[](Builder& b) { return PressFindScriptSpace(b.form3, b.rom, b.dialogs), b.form3.Text3.text; }, "&H700100"},
+      {[](Builder& b) { return PressFindTextSpace(b.form4, b.rom, b.dialogs), b.form4.Text12.text + b.form4.keptMessage; },
+       "&H7A0010AB"},
+      {[](Builder& b) {
+         b.form4.Text12.text = "&H700100";
+         return PressFindScriptSpace(b.form4, b.rom, b.dialogs), b.form4.Text3.text;
+       }, "&H700104"},  // behind FF 00 and one FF
+      {[](Builder& b) {
+         b.form5.Check1.checked = true, b.form5.Text12.text = "&H700180";  // the game-ready block
+         return PressFindScriptSpace(b.form5, b.rom, b.dialogs), b.form5.Text3.text;
+       }, "&H700184"},
+      {[](Builder& b) { return PressFindTextSpace(b.form5, b.rom, b.dialogs), b.form5.Text12.text; }, "&H7A0010"},
+      {[](Builder& b) {
+         b.form3.Text3.text = "&HFFFFF4";
+         return PressFindScriptSpace(b.form3, b.rom, b.dialogs), b.form3.Text3.text;
+       }, "&HFFFFF4", "Offset: no free space at or after &HFFFFF4 holds the script (13 bytes of FF and one more "
+       "behind them). The field keeps its text."},
+      {[](Builder& b) {
+         b.dialogs.inputAnswers = {std::nullopt};  // the message cancelled
+         return PressFindTextSpace(b.form4, b.rom, b.dialogs), b.form4.Text12.text;
+       }, "&H7A0000"},
   };
   for (const auto& row : rows) {
     Builder b;
     b.dialogs.inputAnswers = {"AB"};
-    const ByteOracle oracle(b.fixture.path());
-    row.press(b);
-    EXPECT_EQ(row.field(b), row.shows) << row.button;
-    EXPECT_EQ(b.dialogs.MessageTexts(), *row.said ? std::vector<std::string>{row.said} : std::vector<std::string>{})
-        << row.button;
+    const ByteOracle oracle(b.fixture->path());
+    EXPECT_EQ(row.press(b), row.shows);
+    EXPECT_EQ(b.dialogs.MessageTexts(), *row.said ? std::vector<std::string>{row.said} : std::vector<std::string>{});
     EXPECT_THAT(oracle.Changes(), IsEmpty());
   }
-  Builder b;  // the insert shows the message kept by the button; a field that is no offset is named
-  b.dialogs.inputAnswers = {"AB", "AB"};
-  b.dialogs.messageAnswers = {MessageAnswer::Yes};  // over the script's place
-  PressFindTextSpace(b.form4, b.rom, b.dialogs);
-  b.Insert(b.form4);
-  ASSERT_EQ(b.dialogs.inputs.size(), 2u);
-  EXPECT_EQ(b.dialogs.inputs[0].initial + "|" + b.dialogs.inputs[1].initial, "|AB");
+  Builder b;  // a field that is no offset is named
   b.form3.Text3.text = "xyz";
   EXPECT_THAT(FailureOf([&] { PressFindScriptSpace(b.form3, b.rom, b.dialogs); }), HasSubstr("Offset: \"xyz\""));
 }

@@ -1,88 +1,48 @@
 // Roads that cross windows and files: what one tool, an Open ROM or another program does
 // between a form's load and its action. Each road ends with the sentence it must say (or
 // none) and the exact bytes the file may have changed, by the whole-file byte oracle.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <span>
 
-#include "braille/Form6.h"
-#include "editors/Form9.h"
-#include "events/EventSelection.h"
 #include "events/EventWords.h"
-#include "events/PersonRecord.h"
-#include "flyland/Form8.h"
 #include "rom/FilePath.h"
-#include "rom/HexField.h"
-#include "scripts/WildBattleForms.h"
-#include "shell/OpenRom.h"
-#include "shell/Session.h"
-#include "shell/ToolsMenu.h"
-#include "support/ByteOracle.h"
-#include "support/EventFixtures.h"
-#include "support/Failures.h"
-#include "support/ReadOnlyFile.h"
-#include "support/ScriptedDialogs.h"
+#include "support/Tests.h"
 #include "support/WriteLimit.h"
 
 namespace tessarine {
 namespace {
 
-using test::ByteRange;
-using ::testing::HasSubstr;
-
-// Dialogs during whose next question another program does something to the file.
-struct Dialogs : test::ScriptedDialogs {
-  std::function<void()> whileAsked;
-  MessageAnswer Message(std::string_view text, MessageButtons buttons, std::string_view title) override {
-    if (whileAsked) std::exchange(whileAsked, {})();
-    return ScriptedDialogs::Message(text, buttons, title);
-  }
-};
-
 // The program with no windows, on one file whose bytes the roads change as other programs do.
-struct Desk {
-  Session s;
-  Dialogs ui;
-  test::FixtureRom ruby = Fixture({"AXVE", 0}), fireRed = Fixture({"BPRE", 0});
-  test::FixtureRom unknown{"ZZZZ"};
+struct Desk : test::MainSession {
+  FixtureRom ruby = Fixture({"AXVE", 0}), fireRed = Fixture({"BPRE", 0}), unknown{"ZZZZ"};
   const std::string path = ToPathText(test::TemporaryPath("rom.gba"));
+  bool replaced = true;  // false where the system kept the open file at its name
 
   // A game's events and names, with item names and a fly record of its own.
-  static test::FixtureRom Fixture(const GameIdentity& game) {
-    test::FixtureRom rom = test::EventFixtureRom(game);
+  static FixtureRom Fixture(const GameIdentity& game) {
+    FixtureRom rom = test::EventFixtureRom(game);
     const test::GameOffsets& at = test::OffsetsOf(game);
     rom.PutName(at.items + 13 * 44, "Tinsel", 14).PutBytes(at.flyTable + 8 * 8, {1, 2, 3, 4, 5, 6, 7, 8});
     return rom;
   }
   Desk() { Put(ruby); }
   ~Desk() {
-    s.rom.Close();
+    rom.Close();
     std::filesystem::remove(ToFilePath(path));
   }
   // The file at the path takes the fixture's bytes: written in place, as by a program that
   // overwrites, or renamed over it from a new file, as by one that saves a copy and renames.
-  void Put(test::FixtureRom& from, bool renamed = false) {
+  void Put(FixtureRom& from, bool renamed = false) {
     const std::string written = renamed ? path + ".new" : path;
     std::ofstream(ToFilePath(written), std::ios::binary | std::ios::in | std::ios::out | std::ios::trunc)
         .write(reinterpret_cast<const char*>(from.image().data()), static_cast<std::streamsize>(from.image().size()));
     if (renamed) replaced = test::RenameOver(written, path);
   }
-  bool replaced = true;  // false where the system kept the open file at its name
-  void Open(test::FixtureRom& rom) {
-    Put(rom);
-    ui.openFileAnswers = {path};
-    OpenRom(s.form1, s.rom, ui);
-  }
-  void Show(WindowName window) {
-    ResetWindow(s, window);
-    LoadWindow(s, ui, window);
-  }
-  void Menu(MenuEntry entry, std::initializer_list<std::string> answers = {}) {
-    ui.inputAnswers.assign(answers.begin(), answers.end());
-    RunMenuEntry(entry, s, ui);
+  void Open(FixtureRom& from) {
+    Put(from);
+    MainSession::Open(path);
   }
 };
 
@@ -97,22 +57,14 @@ struct Road {
   const char* says;
 };
 
-void PickRayquazaAndRename(Desk& d) {
-  d.Open(d.ruby);
-  SetCombo3Selection(d.s.form1, d.s.rom, d.ui, 1);
-  d.s.form1.spritetxt.text = "&H50";
-  d.s.form1.hoobla2.text = "&H19";  // a typed cry survives the rename
-  d.Menu(MenuEntry::mnuedipmon, {"&H19", "PIKA"});
-}
-
 void GiftOnFireRed(Desk& d) {
   d.Open(d.fireRed);
   d.Show(WindowName::Form5);
-  SetCombo1Selection(d.s.form5, 0x19);
-  SetCombo3Selection(d.s.form5, 5);
-  SetCombo2Selection(d.s.form5, 13);
-  d.s.form5.Text3.text = "&H700000";
-  d.s.form5.Text12.text = "&H7A0000";
+  SetCombo1Selection(d.session.form5, 0x19);
+  SetCombo3Selection(d.session.form5, 5);
+  SetCombo2Selection(d.session.form5, 13);
+  d.session.form5.Text3.text = "&H700000";
+  d.session.form5.Text12.text = "&H7A0000";
 }
 
 // The system refuses every write from `limit` bytes into a file on, while `save` runs.
@@ -126,8 +78,15 @@ void SaveWithWritesRefusedFrom(std::uint64_t limit, const std::function<void()>&
 }
 
 const Road kRoads[] = {
-    {"a rename keeps the words of the event picked before it", PickRayquazaAndRename,
-     [](Desk& d) { d.s.form1.Text1.text = "&H0"; SavePerson(d.s.form1, d.s.rom, d.ui); },
+    {"a rename keeps the words of the event picked before it",
+     [](Desk& d) {
+       d.Open(d.ruby);
+       d.PickEvent(1);
+       d.form.spritetxt.text = "&H50";
+       d.form.hoobla2.text = "&H19";  // a typed cry survives the rename
+       d.Menu(MenuEntry::mnuedipmon, {"&H19", "PIKA"});
+     },
+     [](Desk& d) { d.form.Text1.text = "&H0", d.Save(); },
      {{0x38EE51, 1}, {0xA00108, 2}},  // sprite &H50; the cry typed (&H19 over &H181); the species kept
      ""},
     {"a refilled item list writes the item it shows",
@@ -137,44 +96,43 @@ const Road kRoads[] = {
        d.Show(WindowName::Form3);  // takes the item list from the give-Pokemon form on show
      },
      [](Desk& d) {
-       d.ui.inputAnswers = {"AB"};
-       InsertGivePokemon(d.s.form5, d.s.form1, d.s.rom, d.ui);
-       EXPECT_EQ(d.s.form5.Text2.text, "&H0000");
+       d.dialogs.inputAnswers = {"AB"};
+       InsertGivePokemon(d.session.form5, d.form, d.rom, d.dialogs);
+       EXPECT_EQ(d.session.form5.Text2.text, "&H0000");
      },
      {{0x700000, 83}, {0x70005D, 9}, {0x700067, 48}, {0x7A0000, 2}, {0x7A0003, 1}}, ""},  // FF stood at T+2
     {"after an unknown game the event Load reads nothing at the offsets of the game before",
      [](Desk& d) {
        d.Open(d.fireRed);
-       SetCombo4Selection(d.s.form1, d.s.rom, d.ui, 1);
+       d.PickEvent(1);
        d.Open(d.unknown);
-       PressContinue(d.s.form9, d.s.form1, d.ui);
-       EXPECT_FALSE(d.s.form1.frlgl.enabled || d.s.form1.Combo4.enabled);
+       PressContinue(d.session.form9, d.form, d.dialogs);
+       EXPECT_FALSE(d.form.frlgl.enabled || d.form.Combo4.enabled);
      },
-     [](Desk& d) { LoadEventWords(d.s.form1, d.s.rom, d.ui); }, {}, "Pick an event in the list before loading"},
+     [](Desk& d) { LoadEventWords(d.form, d.rom, d.dialogs); }, {}, "Pick an event in the list before loading"},
     {"a gift from a window of the ROM before writes nothing", GiftOnFireRed,
      [](Desk& d) {
-       d.ui.openFileAnswers = {d.path};
-       OpenRom(d.s.form1, d.s.rom, d.ui);  // the same file, opened again
-       InsertGivePokemon(d.s.form5, d.s.form1, d.s.rom, d.ui);
+       d.MainSession::Open(d.path);  // the same file, opened again
+       InsertGivePokemon(d.session.form5, d.form, d.rom, d.dialogs);
      },
      {}, "This window was filled before the last Open ROM"},
     {"a landing picked on FireRed is not saved into Ruby",
      [](Desk& d) {
        d.Open(d.fireRed);
        d.Show(WindowName::Form8);
-       SelectLocation(d.s.form8, d.s.rom, d.s.form1, FlyList::kanto, 8);
-       d.s.form8.XXt.text = "&H15";
-       d.s.form8.YYt.text = "&H22";
+       SelectLocation(d.session.form8, d.rom, d.form, FlyList::kanto, 8);
+       d.session.form8.XXt.text = "&H15";
+       d.session.form8.YYt.text = "&H22";
        d.Open(d.ruby);
      },
-     [](Desk& d) { PressSavebutton(d.s.form8, d.s.rom, d.s.form1, d.ui); }, {},
+     [](Desk& d) { PressSavebutton(d.session.form8, d.rom, d.form, d.dialogs); }, {},
      "Pick a location, or press \"Load\""},
     {"after Quit the name editors write no table of the game before",
      [](Desk& d) {
        d.Open(d.fireRed);
        d.Menu(MenuEntry::mnuediten, {"&H1", "AB"});  // the item table of FireRed is known
        d.Open(d.unknown);
-       PressQuit(d.s.form9, d.ui);
+       PressQuit(d.session.form9, d.dialogs);
      },
      [](Desk& d) {
        EXPECT_THAT(test::FailureOf([&] { d.Menu(MenuEntry::mnuediten, {"&H1", "AB"}); }), HasSubstr("not known"));
@@ -184,8 +142,8 @@ const Road kRoads[] = {
     {"a table the dialog put in the header takes no name",
      [](Desk& d) {
        d.Open(d.unknown);
-       PressContinue(d.s.form9, d.s.form1, d.ui);  // both fields at their "&H000000"
-       EXPECT_THAT(d.ui.MessageTexts().back(), HasSubstr("Item Names: \"&H000000\" lies inside the cartridge header"));
+       PressContinue(d.session.form9, d.form, d.dialogs);  // both fields at their "&H000000"
+       EXPECT_THAT(d.dialogs.MessageTexts().back(), HasSubstr("Item Names: \"&H000000\" lies inside the cartridge header"));
      },
      [](Desk& d) { d.Menu(MenuEntry::mnuediten, {"&H0", "TONIC"}); }, {},
      "Item Names: \"&H000000\" lies inside the cartridge header"},
@@ -193,7 +151,7 @@ const Road kRoads[] = {
      [](Desk& d) {
        EXPECT_EQ(test::FailureOf([&] { d.Menu(MenuEntry::mnuediten); }),
                  test::FailureOf([&] { d.Menu(MenuEntry::mnuedipmon); }));
-       EXPECT_TRUE(d.ui.inputs.empty());
+       EXPECT_TRUE(d.dialogs.inputs.empty());
        d.Menu(MenuEntry::mnuediten);
      },
      {}, "No ROM is open. Open a ROM first."},
@@ -205,7 +163,7 @@ const Road kRoads[] = {
      [](Desk& d) {
        d.Menu(MenuEntry::mnuediten, {"&HD", "Amber"});
        d.Show(WindowName::Form4);
-       EXPECT_EQ(d.s.form4.Combo2.rows.at(13), "00D - Amber" + std::string(8, ' '));
+       EXPECT_EQ(d.session.form4.Combo2.rows.at(13), "00D - Amber" + std::string(8, ' '));
      },
      {{0x3DB028 + 13 * 44, 14}}, ""},
     {"a file renamed over the open one takes no save",
@@ -214,7 +172,7 @@ const Road kRoads[] = {
        d.Show(WindowName::Form2);
        d.Put(d.ruby, true);  // another program saved a copy and renamed it over the file
      },
-     [](Desk& d) { PressSave(d.s.form2, d.s.form1, d.s.rom, d.ui); }, {}, "is no longer the file that was opened"},
+     [](Desk& d) { PressSave(d.session.form2, d.form, d.rom, d.dialogs); }, {}, "is no longer the file that was opened"},
     {"a file overwritten in place by another game takes no name",
      [](Desk& d) {
        d.Open(d.ruby);
@@ -224,23 +182,22 @@ const Road kRoads[] = {
      "no longer names the game that was opened (AXVE): it now reads \"BPRE\""},
     {"starters past the end of a short ROM show no value, and are saved only once read",
      [](Desk& d) {
-       test::FixtureRom shortRuby = Desk::Fixture({"AXVE", 0});
-       d.Open(shortRuby);
+       d.Open(d.ruby);
        std::filesystem::resize_file(ToFilePath(d.path), 0x300000);
        EXPECT_THAT(test::FailureOf([&] { d.Show(WindowName::Form2); }), HasSubstr("past the end of the file"));
-       EXPECT_EQ(d.s.form2.Combo1.selected, -1);
-       EXPECT_EQ(d.s.form2.Combo1.text, "");
-       d.Put(shortRuby);  // the whole ROM again, in place: the same file and game
+       EXPECT_EQ(d.session.form2.Combo1.selected, -1);
+       EXPECT_EQ(d.session.form2.Combo1.text, "");
+       d.Put(d.ruby);  // the whole ROM again, in place: the same file and game
      },
-     [](Desk& d) { PressSave(d.s.form2, d.s.form1, d.s.rom, d.ui); }, {}, "or their last read failed"},
+     [](Desk& d) { PressSave(d.session.form2, d.form, d.rom, d.dialogs); }, {}, "or their last read failed"},
 };
 
 // Actions that write in steps, stopped by the system part way through.
 const Road kStoppedRoads[] = {
     {"a gift stopped at its third write says what it wrote", GiftOnFireRed,
      [](Desk& d) {
-       d.ui.inputAnswers = {"AB"};
-       SaveWithWritesRefusedFrom(0x70005D, [&] { InsertGivePokemon(d.s.form5, d.s.form1, d.s.rom, d.ui); });
+       d.dialogs.inputAnswers = {"AB"};
+       SaveWithWritesRefusedFrom(0x70005D, [&] { InsertGivePokemon(d.session.form5, d.form, d.rom, d.dialogs); });
      },
      {{0x700000, 83}},
      "Written before it stopped: 83 bytes at &H700000 (the body and the declined branch). Not written: 9 bytes at "
@@ -250,10 +207,10 @@ const Road kStoppedRoads[] = {
      [](Desk& d) {
        d.Open(d.fireRed);
        d.Show(WindowName::Form2);
-       SetCombo1Selection(d.s.form2, 0x19);
+       SetCombo1Selection(d.session.form2, 0x19);
      },
      [](Desk& d) {
-       SaveWithWritesRefusedFrom(0x169D82, [&] { PressSave(d.s.form2, d.s.form1, d.s.rom, d.ui); });
+       SaveWithWritesRefusedFrom(0x169D82, [&] { PressSave(d.session.form2, d.form, d.rom, d.dialogs); });
      },
      {{0x169BB5, 2}}, "Written before it stopped: 2 bytes at &H169BB5 (Ball 1). Not written: 2 bytes at &H169D82 "
                       "(Ball 2) and 2 bytes at &H169DB8 (Ball 3)."},
@@ -261,17 +218,17 @@ const Road kStoppedRoads[] = {
      [](Desk& d) {
        d.Open(d.ruby);
        d.Show(WindowName::Form6);
-       for (TextBox* field : {&d.s.form6.postionleft, &d.s.form6.postiontop, &d.s.form6.msgboxleft,
-                              &d.s.form6.msgboxtop, &d.s.form6.brailleleft, &d.s.form6.brailletop}) {
+       Form6& f = d.session.form6;
+       for (TextBox* field : {&f.postionleft, &f.postiontop, &f.msgboxleft, &f.msgboxtop, &f.brailleleft, &f.brailletop}) {
          field->text = "0";
        }
-       SetText1(d.s.form6, "A");
-       d.s.form6.Text2.text = "&H700000";
-       d.s.form6.Text3.text = "&H800000";
+       SetText1(f, "A");
+       f.Text2.text = "&H700000";
+       f.Text3.text = "&H800000";
      },
      [](Desk& d) {
-       d.ui.messageAnswers = {MessageAnswer::Yes};
-       SaveWithWritesRefusedFrom(0x800000, [&] { PressInsert(d.s.form6, d.s.form1, d.s.rom, d.ui); });
+       d.dialogs.messageAnswers = {MessageAnswer::Yes};
+       SaveWithWritesRefusedFrom(0x800000, [&] { PressInsert(d.session.form6, d.form, d.rom, d.dialogs); });
      },
      {{0x700000, 7}, {0x700008, 1}},  // the 0xFF end byte stood there already
      "Written before it stopped: 9 bytes at &H700000 (the braille record). Not written: 8 bytes at &H800000 (its "
@@ -279,10 +236,10 @@ const Road kStoppedRoads[] = {
     {"an event save stopped at its words says what it wrote",
      [](Desk& d) {
        d.Open(d.ruby);
-       SetCombo3Selection(d.s.form1, d.s.rom, d.ui, 1);
-       d.s.form1.spritetxt.text = "&H50";
+       d.PickEvent(1);
+       d.form.spritetxt.text = "&H50";
      },
-     [](Desk& d) { SaveWithWritesRefusedFrom(0xA00000, [&] { SavePerson(d.s.form1, d.s.rom, d.ui); }); },
+     [](Desk& d) { SaveWithWritesRefusedFrom(0xA00000, [&] { d.Save(); }); },
      {{0x38EE51, 1}},
      "Written before it stopped: 22 bytes at &H38EE50 (the person record). Not written: 2 bytes at &HA00103 (the "
      "Pokemon word) and the Cry word at &HA00108."},
@@ -297,10 +254,10 @@ void Walk(std::span<const Road> roads) {
       ::testing::Test::RecordProperty("not replaced", road.name);
       continue;
     }
-    d.ui.messages.clear();
+    d.dialogs.messages.clear();
     const test::ByteOracle oracle(d.path);
     std::string said = test::FailureOf([&] { road.act(d); });
-    if (said.empty() && !d.ui.messages.empty()) said = d.ui.messages.back().text;
+    if (said.empty() && !d.dialogs.messages.empty()) said = d.dialogs.messages.back().text;
     EXPECT_THAT(said, HasSubstr(road.says));
     EXPECT_EQ(*road.says == '\0', said.empty()) << said;
     EXPECT_EQ(oracle.Changes(), road.changes);
@@ -322,24 +279,12 @@ TEST(CrossRoadsTest, AFileChangedWhileAQuestionStandsTakesNoByte) {
   Desk d;
   d.Open(d.ruby);
   d.Show(WindowName::Form3);
-  d.s.form3.Text3.text = "&H38EE50";  // a person record: no free space
-  d.ui.messageAnswers = {MessageAnswer::Yes};
-  d.ui.whileAsked = [&] { d.Put(d.fireRed); };
-  EXPECT_THAT(test::FailureOf([&] { InsertWildBattle(d.s.form3, d.s.form1, d.s.rom, d.ui); }),
+  d.session.form3.Text3.text = "&H38EE50";  // a person record: no free space
+  d.dialogs.messageAnswers = {MessageAnswer::Yes};
+  d.dialogs.whileAsked = [&] { d.Put(d.fireRed); };
+  EXPECT_THAT(test::FailureOf([&] { InsertWildBattle(d.session.form3, d.form, d.rom, d.dialogs); }),
               HasSubstr("no longer names the game that was opened (AXVE)"));
   EXPECT_EQ(test::ReadWholeFile(d.path), d.fireRed.image());
-}
-
-// A file that cannot be written says so the moment it opens.
-TEST(CrossRoadsTest, AReadOnlyRomSaysSoWhenItOpens) {
-  Desk d;
-  d.Put(d.ruby);
-  test::ReadOnlyFile readOnly(d.path);
-  if (!readOnly.works()) GTEST_SKIP() << "this machine lets the tests write any file";
-  d.ui.openFileAnswers = {d.path};
-  OpenRom(d.s.form1, d.s.rom, d.ui);
-  EXPECT_EQ(d.s.form1.hdtxt.caption, "AXVE (read-only)");
-  d.s.rom.Close();
 }
 
 }  // namespace

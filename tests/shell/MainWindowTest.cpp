@@ -1,29 +1,16 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <regex>
 #include <tuple>
 
-#include "editors/Form9.h"
 #include "editors/NameEditors.h"
-#include "rom/GameProfile.h"
 #include "rom/HexField.h"
-#include "shell/OpenRom.h"
 #include "shell/ScriptForms.h"
-#include "shell/Session.h"
-#include "shell/ToolsMenu.h"
-#include "support/ByteOracle.h"
-#include "support/EventFixtures.h"
-#include "support/MainSession.h"
+#include "support/Tests.h"
 
 namespace tessarine {
 namespace {
 
 using test::EventFixtureRom;
-using test::FixtureRom;
 using test::FixtureSpeciesName;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using Window = test::ScriptedDialogs::WindowEvent;
 
 // What an open leaves of the main window, in one line: the "RomCode:" line, rom, cowmoo, Label20,
@@ -120,34 +107,25 @@ TEST(OpenRomTest, AnUnknownGameHidesTheMainWindowAndAsksForItsTables) {
     EXPECT_THAT(s.form.Combo1.rows, IsEmpty());
     EXPECT_EQ(OpenState(s.form), row.code + std::regex_replace(rubyState, std::regex("frlgl-"), "frlgl-x") +
                                      "x Combo4-x Combo5-x Command2+ Command9+x Command10+x");
+    s.dialogs.windowEvents.clear();  // Quit, like Continue, brings the main window back
+    PressQuit(s.session.form9, s.dialogs);
+    EXPECT_THAT(s.dialogs.windowEvents, ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
     s.Open(ruby.path());
     EXPECT_EQ(OpenState(s.form), "AXVE" + rubyState + " Combo4- Combo5- Command2+ Command9+ Command10+");
   }
 }
 
-// Quit, like Continue, brings the main window back (what Continue keeps, the name editors use).
-TEST(OpenRomTest, TheUnsupportedRomDialogsQuitBringsTheMainWindowBack) {
-  Form9 form;
-  test::ScriptedDialogs dialogs;
-  PressQuit(form, dialogs);
-  EXPECT_THAT(dialogs.windowEvents, ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
-}
-
 TEST(ToolsMenuTest, EachEntryOpensItsWindowOnceItsGuardLetsIt) {
   const auto run = [](MenuEntry entry, bool loaded, MessageAnswer answer = MessageAnswer::No) {
-    Session session;
-    session.form1.rom = loaded ? "Loaded" : session.form1.rom;
-    test::ScriptedDialogs dialogs;
-    dialogs.messageAnswers = {answer};
-    RunMenuEntry(entry, session, dialogs);
-    return dialogs;
+    test::MainSession s;
+    if (loaded) s.form.rom = "Loaded";
+    s.dialogs.messageAnswers = {answer};
+    s.Menu(entry);
+    return s.dialogs;
   };
-  // The tools of the open ROM want one loaded first.
-  const std::pair<MenuEntry, WindowName> guarded[] = {{MenuEntry::mnugps, WindowName::Form5},
-                                                      {MenuEntry::mnuib, WindowName::Form6},
-                                                      {MenuEntry::mnuflin, WindowName::Form8},
-                                                      {MenuEntry::mnuwbs, WindowName::Form3}};  // answered No
-  for (const auto& [entry, window] : guarded) {
+  // The tools of the open ROM want one loaded first; the wild battle asks about a message.
+  for (const auto& [entry, window] : {std::pair{MenuEntry::mnugps, WindowName::Form5}, {MenuEntry::mnuib, WindowName::Form6},
+                                      {MenuEntry::mnuflin, WindowName::Form8}, {MenuEntry::mnuwbs, WindowName::Form3}}) {
     const test::ScriptedDialogs refused = run(entry, false);
     EXPECT_THAT(refused.MessageTexts(), ElementsAre("Load a Rom First"));
     EXPECT_THAT(refused.windowEvents, IsEmpty());
@@ -157,130 +135,82 @@ TEST(ToolsMenuTest, EachEntryOpensItsWindowOnceItsGuardLetsIt) {
   EXPECT_EQ(asked.messages.at(0).title, "Ok.");
   EXPECT_EQ(asked.messages[0].buttons, MessageButtons::YesNo);
   EXPECT_THAT(asked.windowEvents, ElementsAre(Window{WindowName::Form4, true}));
-  // The starters need no ROM.
-  EXPECT_THAT(run(MenuEntry::mnustart, false).windowEvents, ElementsAre(Window{WindowName::Form2, true}));
+  EXPECT_THAT(run(MenuEntry::mnustart, false).windowEvents, ElementsAre(Window{WindowName::Form2, true}));  // no ROM
 }
 
-// A whole session with no windows, for the tools that the menu opens.
-struct Opened {
-  Session session;
-  test::ScriptedDialogs dialogs;
-  void Open(const std::string& path) {
-    dialogs.openFileAnswers.push_back(path);
-    OpenRom(session.form1, session.rom, dialogs);
+// Each game and revision, through the menu: a Pokemon renamed writes its name in the game's own
+// table and the species list shows it; an item renamed writes its 14 bytes in the game's item
+// records, and the builders' item list, read there, shows it (a full field loses its last letter).
+TEST(NameEditorMenuTest, EachGameRenamesInItsOwnTablesAndItsListsShowTheNames) {
+  for (const GameIdentity& game : test::AllGames()) {
+    SCOPED_TRACE(ShownIdentity(game));
+    const test::GameOffsets& at = test::OffsetsOf(game);
+    test::MainSession s(FixtureRom(game.code, FixtureRom::kSize, game.revision));
+    const test::ByteOracle oracle(s.fixture->path());
+    s.Menu(MenuEntry::mnuedipmon, {"&H19", "PIKA"});
+    s.Menu(MenuEntry::mnuediten, {"2", "Abcdefghijklmno"});
+    EXPECT_EQ(oracle.Written(), (test::WrittenRuns{{at.speciesNames + 0x19 * 11, "CA C3 C5 BB 00 00 00 00 00 00 00"},
+                                                   {at.items + 2 * 44, "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"}}));
+    EXPECT_EQ(s.form.Combo1.rows.at(0x19) + "|" + std::to_string(s.form.Combo1.selected), "019 - PIKA      |0");
+    EXPECT_EQ(RequireForm5Loaded(s.session).at(2), "002 - Abcdefghijklm");
+    EXPECT_EQ(s.session.form5.Label7.caption, ToHexText(static_cast<std::int32_t>(at.items)));
+    EXPECT_EQ(s.session.form5.Combo1.rows, s.form.Combo1.rows);
   }
-  std::string Item(int row) { return RequireForm5Loaded(session).at(static_cast<std::size_t>(row)); }
-};
-
-TEST(ScriptFormsTest, TheItemListIsReadFromTheRomThatIsOpenAndOnlyWhenItIsNeeded) {
-  constexpr std::size_t kSapphireItems = 0x3C55BC, kFireRedItems = 0x3DB028;
-  FixtureRom sapphire = FixtureRom::Sapphire();
-  sapphire.PutName(kSapphireItems, "Ball", 14)
-      .PutName(kSapphireItems + 44, "Tonic", 14)
-      .PutName(kSapphireItems + 346 * 44, "Abcdefghijklmn", 14);  // fills its field: loses its last letter
-  FixtureRom fireRed = FixtureRom::FireRed();
-  fireRed.PutName(kFireRedItems + 44, "Balsam", 14);
-
-  Opened s;
-  s.Open(sapphire.path());
-  const std::vector<std::string>& rows = RequireForm5Loaded(s.session);
-  ASSERT_EQ(rows.size(), 347u);
-  EXPECT_EQ(rows[0], "000 - Ball");
-  EXPECT_EQ(rows[1], "001 - Tonic");
-  EXPECT_EQ(rows[346], "15A - Abcdefghijklm");
-  EXPECT_EQ(s.session.form5.Label7.caption, "&H3C55BC");
-
-  FixtureRom emeraldUs("BPEE"), fireRed11("BPRE", FixtureRom::kSize, 1);  // its items lie elsewhere
-  emeraldUs.PutName(0x5839A0 + 44, "Cordial", 14);
-  fireRed11.PutName(0x3DB098 + 44, "Cordial", 14);
-  const std::tuple<FixtureRom*, const char*, const char*> games[] = {
-      {&fireRed, "&H3DB028", "001 - Balsam"}, {&emeraldUs, "&H5839A0", "001 - Cordial"}, {&fireRed11, "&H3DB098", "001 - Cordial"}};
-  for (const auto& [rom, records, name] : games) {
-    s.Open(rom->path());
-    EXPECT_EQ(s.Item(1), name);
-    EXPECT_EQ(s.session.form1.itemRecords, records);
-    EXPECT_EQ(s.session.form5.Combo1.rows, s.session.form1.Combo1.rows);
-  }
-
-  s.Open("");  // cancelled: no ROM open, no list
+  test::MainSession s(FixtureRom::Sapphire());  // cancelled in the Open dialog: no ROM open, no list
+  s.Open("");
   EXPECT_THAT(RequireForm5Loaded(s.session), IsEmpty());
-  EXPECT_THAT(s.dialogs.messages, IsEmpty());
-  FixtureRom emerald = FixtureRom::Emerald();  // a game with no item offset: an empty list, no message
-  Opened unknown;
-  unknown.Open(emerald.path());
-  LoadForm5(unknown.session);
-  EXPECT_THAT(unknown.session.form5.Combo2.rows, IsEmpty());
-  EXPECT_THAT(unknown.dialogs.MessageTexts(), ElementsAre("Unsupported ROM"));
+  test::MainSession emerald(FixtureRom::Emerald());  // a game with no item offset: an empty list, and no message
+  emerald.Show(WindowName::Form5);
+  EXPECT_THAT(emerald.session.form5.Combo2.rows, IsEmpty());
+  EXPECT_THAT(emerald.dialogs.MessageTexts(), ElementsAre("Unsupported ROM"));
 }
 
-// On a fixture of 0xFF with no names, through the menu. An unknown game first passes the
-// "Unsupported ROM" dialog with the two offsets typed.
+// On a fixture of 0xFF with no names, through the menu: names cut or filled, answers cancelled,
+// and an unknown game that passes the "Unsupported ROM" dialog with the two offsets typed.
 TEST(NameEditorMenuTest, TheTwoAnswersWriteTheEncodedNameAndNothingElse) {
   using Answer = std::optional<std::string>;
-  struct Case {
+  const struct {
     const char* code;
     MenuEntry entry;
     Answer number, name;
-    std::vector<test::ByteRange> changes;
-    std::string written;  // the bytes of the changed range
+    test::WrittenRuns written;
     std::string row;      // the entry's row of Combo1 after a Pokemon rename, or a cancel
     std::string failure;  // part of the sentence that ends the action
     std::array<const char*, 2> typedInForm9{};
-  };
-  const Case cases[] = {
-      {"AXVE", MenuEntry::mnuedipmon, "&H19", "PIKA", {{0x1F727F, 11}}, "CA C3 C5 BB 00 00 00 00 00 00 00",
-       "019 - PIKA      "},
-      {"AXPE 2", MenuEntry::mnuedipmon, "&H19", "PIKA", {{0x1F7227, 11}}, "CA C3 C5 BB 00 00 00 00 00 00 00",
-       "019 - PIKA      "},
-      {"BPGE 1", MenuEntry::mnuediten, "2", "Abcdefghijklmno", {{0x3DAF2C, 14}},
-       "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
-      {"AXVE", MenuEntry::mnuedipmon, "&H19", "AB[PK]CDEFGHIJ", {{0x1F727F, 8}}, "BB BC 53 BD BE BF C0 C1",
+  } cases[] = {
+      {"AXVE", MenuEntry::mnuedipmon, "&H19", "AB[PK]CDEFGHIJ", {{0x1F727F, "BB BC 53 BD BE BF C0 C1"}},
        "019 - ABPKCDEFG"},
-      {"BPRE", MenuEntry::mnuedipmon, "", "", {{0x245EE0, 11}}, "00 00 00 00 00 00 00 00 00 00 00",
+      {"BPRE", MenuEntry::mnuedipmon, "", "", {{0x245EE0, "00 00 00 00 00 00 00 00 00 00 00"}},
        "000 - " + std::string(10, ' ')},
-      {"AXVE", MenuEntry::mnuedipmon, std::nullopt, "PIKA", {}, "", "000 - "},
-      {"AXVE", MenuEntry::mnuedipmon, "&H19", std::nullopt, {}, "", "019 - "},
-      {"BPEJ", MenuEntry::mnuedipmon, "&H19", "PIKA", {{0x245FF3, 11}}, "CA C3 C5 BB 00 00 00 00 00 00 00",
-       "019 - PIKA      ", "", {"&H245EE0", "&H000000"}},
-      {"BPEE", MenuEntry::mnuedipmon, "&H19", "PIKA", {{0x3186DB, 11}}, "CA C3 C5 BB 00 00 00 00 00 00 00",
-       "019 - PIKA      "},
-      {"AXPE", MenuEntry::mnuediten, "&H2", "Abcdefghijklmn", {{0x3C5614, 14}},
-       "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
-      {"BPGE", MenuEntry::mnuediten, "2", "Abcdefghijklmno", {{0x3DAEBC, 14}},
-       "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
-      {"BPRE", MenuEntry::mnuediten, "&H2", "ééééééééééééééé", {{0x3DB080, 14}},  // cut in characters, not in bytes
-       "1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B"},
-      {"BPEE", MenuEntry::mnuediten, "&H2", "Abcdefghijklmn", {{0x5839F8, 14}},
-       "BB D6 D7 D8 D9 DA DB DC DD DE DF E0 E1 E2"},
-      {"BPEJ", MenuEntry::mnuediten, "&H2", "A", {}, "", "", "Item Names: \"&H24SEE0\" is not",
-       {"&H245EE0", "&H24SEE0"}},
+      {"AXVE", MenuEntry::mnuedipmon, std::nullopt, "PIKA", {}, "000 - "},
+      {"AXVE", MenuEntry::mnuedipmon, "&H19", std::nullopt, {}, "019 - "},
+      {"BPEJ", MenuEntry::mnuedipmon, "&H19", "PIKA", {{0x245FF3, "CA C3 C5 BB 00 00 00 00 00 00 00"}}, "019 - PIKA      ",
+       "", {"&H245EE0", "&H000000"}},
+      {"BPEJ", MenuEntry::mnuedipmon, "-1", "A", {}, "", "Pokemon: \"&HFFFFFFFF\": its name in the table at &HCA, 11 bytes from "
+       "&HBF, would lie inside the cartridge header", {"&HCA", "&H000000"}},
+      {"BPRE", MenuEntry::mnuediten, "&H2", "ééééééééééééééé", {{0x3DB080, "1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B"}},
+       ""},  // cut in characters, not in bytes
+      {"BPEJ", MenuEntry::mnuediten, "&H2", "A", {}, "", "Item Names: \"&H24SEE0\" is not", {"&H245EE0", "&H24SEE0"}},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(std::string(c.code) + " " + c.number.value_or("(cancel)") + " " + c.name.value_or("(cancel)"));
-    test::FixtureRom fixture(std::string(c.code).substr(0, 4), test::FixtureRom::kSize, c.code[4] ? c.code[5] - '0' : 0);
-    Opened s;
-    s.Open(fixture.path());
+    test::MainSession s(FixtureRom{c.code});
     if (c.typedInForm9[0] != nullptr) {
       s.session.form9.Text1.text = c.typedInForm9[0];
       s.session.form9.Text2.text = c.typedInForm9[1];
-      PressContinue(s.session.form9, s.session.form1, s.dialogs);
+      PressContinue(s.session.form9, s.form, s.dialogs);
     }
     s.dialogs.inputAnswers = {c.number, c.name};
-    const test::ByteOracle oracle(fixture.path());
-    const std::string failure = test::FailureOf([&] { RunMenuEntry(c.entry, s.session, s.dialogs); });
-
-    EXPECT_EQ(oracle.Changes(), c.changes);
-    const Bytes now = oracle.Now();
-    const test::ByteRange r = c.changes.empty() ? test::ByteRange{0, 0} : c.changes[0];
-    EXPECT_EQ(test::ToHex(Bytes(now.begin() + long(r.offset), now.begin() + long(r.offset + r.length))), c.written);
+    const test::ByteOracle oracle(s.fixture->path());
+    const std::string failure = test::FailureOf([&] { s.Menu(c.entry, {c.number, c.name}); });
+    EXPECT_EQ(oracle.Written(), c.written);
+    EXPECT_THAT(failure, HasSubstr(c.failure));
     EXPECT_EQ(failure.empty(), c.failure.empty()) << failure;
-    EXPECT_THAT(failure, ::testing::HasSubstr(c.failure));
     EXPECT_EQ(s.dialogs.inputs.size(), c.number ? 2u : 1u);
     EXPECT_EQ(s.dialogs.inputs[0].prompt, c.entry == MenuEntry::mnuediten ? kItemEntryPrompt : kPokemonEntryPrompt);
     if (c.row.empty()) continue;
-    ASSERT_EQ(s.session.form1.Combo1.rows.size(), 412u);  // a cancel keeps the list of the open
-    EXPECT_EQ(s.session.form1.Combo1.rows[std::size_t(ParseLenient(c.number.value_or("")))], c.row);
-    EXPECT_EQ(s.session.form1.Combo1.selected, 0);
+    ASSERT_EQ(s.form.Combo1.rows.size(), 412u);  // a cancel keeps the list of the open
+    EXPECT_EQ(s.form.Combo1.rows[std::size_t(ParseLenient(c.number.value_or("")))], c.row);
   }
 }
 

@@ -1,15 +1,11 @@
 #pragma once
 
 #include <algorithm>
-#include <cstddef>
-#include <fstream>
 #include <ostream>
-#include <stdexcept>
-#include <string>
+#include <utility>
 #include <vector>
 
-#include "rom/Bytes.h"
-#include "rom/FilePath.h"
+#include "support/FixtureRom.h"
 
 namespace tessarine::test {
 
@@ -33,9 +29,12 @@ inline Bytes ReadWholeFile(const std::string& path) {
   return bytes;
 }
 
-// Proves what an action wrote: take a snapshot of the whole file before it, then ask
-// which bytes differ after it. Changes() joins neighbouring changed bytes into ranges,
-// so a test states the exact set of ranges it expects and nothing else may differ.
+// Each changed run of bytes, where it starts and its bytes now in hex ("6A 5A").
+using WrittenRuns = std::vector<std::pair<std::size_t, std::string>>;
+
+// Proves what an action wrote: a snapshot of the whole file before it, compared after it.
+// Changes() joins neighbouring changed bytes into ranges, so a test states the exact set of
+// ranges it expects and nothing else may differ; Written() gives each range with its bytes.
 class ByteOracle {
  public:
   explicit ByteOracle(std::string path) : path_(std::move(path)), before_(Now()) {}
@@ -57,11 +56,21 @@ class ByteOracle {
     if (longer > common) ranges.push_back({common, longer - common});
     return ranges;
   }
-
-  // The file's bytes as they are now, read through a handle of the oracle's own.
+  WrittenRuns Written() const {
+    const Bytes now = Now();
+    WrittenRuns written;
+    for (const ByteRange& r : Changes()) written.emplace_back(r.offset, HexOf(now, r.offset, r.length));
+    return written;
+  }
+  // `count` bytes of the file from `at` as they are now, in hex.
+  std::string Hex(std::size_t at, std::size_t count) const { return HexOf(Now(), at, count); }
   Bytes Now() const { return ReadWholeFile(path_); }
 
  private:
+  static std::string HexOf(const Bytes& bytes, std::size_t at, std::size_t count) {
+    const auto from = bytes.begin() + static_cast<long>(std::min(at, bytes.size()));
+    return ToHex(Bytes(from, bytes.begin() + static_cast<long>(std::min(at + count, bytes.size()))));
+  }
   std::string path_;
   Bytes before_;
 };

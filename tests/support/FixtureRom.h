@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <cctype>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
@@ -8,6 +9,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "rom/Bytes.h"
 #include "rom/FilePath.h"
@@ -27,36 +29,26 @@ inline std::string ToHex(const Bytes& bytes) {
   static constexpr char kDigits[] = "0123456789ABCDEF";
   std::string hex;
   for (const std::uint8_t byte : bytes) {
-    if (!hex.empty()) hex += ' ';
-    hex += {kDigits[byte >> 4], kDigits[byte & 0xF]};
+    hex += (hex.empty() ? "" : " ") + std::string{kDigits[byte >> 4], kDigits[byte & 0xF]};
   }
   return hex;
 }
 
-// The game-text bytes of a name made of letters, digits and blanks. Only the letters, digits
-// and blank of the cartridge's Western table are known here, on purpose: the tests do not use
-// the system's own encoder to make what its decoder reads.
+// The game-text bytes of a name made of letters, digits and blanks. Only these of the
+// cartridge's Western table are known here, on purpose: the tests do not use the system's own
+// encoder to make what its decoder reads.
 inline Bytes GameTextOf(std::string_view ascii) {
   Bytes bytes;
   for (const char c : ascii) {
-    if (c >= 'A' && c <= 'Z') {
-      bytes.push_back(static_cast<std::uint8_t>(0xBB + (c - 'A')));
-    } else if (c >= 'a' && c <= 'z') {
-      bytes.push_back(static_cast<std::uint8_t>(0xD5 + (c - 'a')));
-    } else if (c >= '0' && c <= '9') {
-      bytes.push_back(static_cast<std::uint8_t>(0xA1 + (c - '0')));
-    } else if (c == ' ') {
-      bytes.push_back(0x00);
-    } else {
-      throw std::invalid_argument("GameTextOf knows letters, digits and blanks only");
-    }
+    if (c != ' ' && !std::isalnum(static_cast<unsigned char>(c))) throw std::invalid_argument("not a letter or digit");
+    const int byte = c == ' ' ? 0x00 : c <= '9' ? 0xA1 + (c - '0') : c <= 'Z' ? 0xBB + (c - 'A') : 0xD5 + (c - 'a');
+    bytes.push_back(static_cast<std::uint8_t>(byte));
   }
   return bytes;
 }
 
 // A device that has no end and takes every write: a ROM of which every place lies inside.
-// (Wine would also open "/dev/zero", as a path of the Linux around it; Windows reads it as
-// \dev\zero.)
+// (Wine would also open "/dev/zero", as a path of the Linux around it; Windows reads it as \dev\zero.)
 inline const char* EndlessDevice() {
 #ifdef _WIN32
   return "NUL";
@@ -93,9 +85,7 @@ class FixtureRom {
 
   explicit FixtureRom(std::string_view gameCode, std::size_t size = kSize, int revision = 0)
       : image_(size, 0xFF), path_(TemporaryPath("fixture.gba")) {
-    for (std::size_t i = 0; i < gameCode.size() && 0xAC + i < size; ++i) {
-      image_[0xAC + i] = static_cast<std::uint8_t>(gameCode[i]);
-    }
+    for (std::size_t i = 0; i < gameCode.size() && 0xAC + i < size; ++i) image_[0xAC + i] = std::uint8_t(gameCode[i]);
     if (0xBC < size) image_[0xBC] = static_cast<std::uint8_t>(revision);
   }
   ~FixtureRom() {
@@ -103,19 +93,14 @@ class FixtureRom {
     if (!path_.empty()) std::filesystem::remove(path_, ignored);
   }
   FixtureRom(FixtureRom&& other) noexcept
-      : image_(std::move(other.image_)), path_(std::move(other.path_)), dirty_(other.dirty_) {
-    other.path_.clear();
-  }
-  FixtureRom(const FixtureRom&) = delete;
-  FixtureRom& operator=(const FixtureRom&) = delete;
+      : image_(std::move(other.image_)), path_(std::exchange(other.path_, {})), dirty_(other.dirty_) {}
   FixtureRom& operator=(FixtureRom&&) = delete;
 
   static FixtureRom Ruby() { return FixtureRom("AXVE"); }
   static FixtureRom Sapphire() { return FixtureRom("AXPE"); }
   static FixtureRom FireRed() { return FixtureRom("BPRE"); }
   static FixtureRom Emerald() { return FixtureRom("BPEJ"); }
-  // A file that ends before the header's game code is complete.
-  static FixtureRom TooShort() { return FixtureRom("", 0xAE); }
+  static FixtureRom TooShort() { return FixtureRom("", 0xAE); }  // it ends before the header's game code is whole
 
   FixtureRom& PutBytes(std::size_t offset, const Bytes& bytes) {
     if (offset + bytes.size() > image_.size()) throw std::out_of_range("fixture put past the end of the image");
@@ -124,8 +109,8 @@ class FixtureRom {
     return *this;
   }
   FixtureRom& PutByte(std::size_t offset, std::uint8_t value) { return PutBytes(offset, {value}); }
-  FixtureRom& PutWord(std::size_t offset, std::uint16_t value) { return PutLittleEndian(offset, value, 2); }
-  FixtureRom& PutLong(std::size_t offset, std::uint32_t value) { return PutLittleEndian(offset, value, 4); }
+  FixtureRom& PutWord(std::size_t offset, std::uint16_t value) { return PutBytes(offset, LittleEndian(value, 2)); }
+  FixtureRom& PutLong(std::size_t offset, std::uint32_t value) { return PutBytes(offset, LittleEndian(value, 4)); }
   // A name in game text (GameTextOf), padded with `pad` to `fieldLength` bytes.
   FixtureRom& PutName(std::size_t offset, std::string_view ascii, std::size_t fieldLength, std::uint8_t pad = 0xFF) {
     Bytes field = GameTextOf(ascii);
@@ -147,10 +132,10 @@ class FixtureRom {
   }
 
  private:
-  FixtureRom& PutLittleEndian(std::size_t offset, std::uint32_t value, std::size_t width) {
+  static Bytes LittleEndian(std::uint32_t value, std::size_t width) {
     Bytes bytes(width);
     for (std::size_t i = 0; i < width; ++i) bytes[i] = static_cast<std::uint8_t>(value >> (8 * i));
-    return PutBytes(offset, bytes);
+    return bytes;
   }
 
   Bytes image_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,17 +13,15 @@ namespace tessarine::test {
 // Dialogs that answer from queues and record every question, for tests that walk a
 // user's road with no window. A question with no queued answer gets the harmless one:
 // OK (or No), a cancelled input box, a cancelled file dialog, a program that is not found.
+// While the next question stands, `whileAsked` may do what another program does meanwhile.
 class ScriptedDialogs : public Dialogs {
  public:
   struct MessageShown {
-    std::string text;
-    std::string title;
+    std::string text, title;
     MessageButtons buttons;
   };
   struct InputShown {
-    std::string prompt;
-    std::string title;
-    std::string initial;
+    std::string prompt, title, initial;
   };
   struct WindowEvent {
     WindowName window;
@@ -33,6 +32,7 @@ class ScriptedDialogs : public Dialogs {
   std::deque<MessageAnswer> messageAnswers;
   std::deque<std::optional<std::string>> inputAnswers;
   std::deque<std::string> openFileAnswers;
+  std::function<void()> whileAsked;
 
   std::vector<MessageShown> messages;
   std::vector<InputShown> inputs;
@@ -48,6 +48,7 @@ class ScriptedDialogs : public Dialogs {
   }
 
   MessageAnswer Message(std::string_view text, MessageButtons buttons, std::string_view title) override {
+    if (whileAsked) std::exchange(whileAsked, {})();
     messages.push_back({std::string(text), std::string(title), buttons});
     return Next(messageAnswers, buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::No);
   }
@@ -72,9 +73,9 @@ class ScriptedDialogs : public Dialogs {
   template <typename Answer>
   static Answer Next(std::deque<Answer>& queue, Answer otherwise) {
     if (queue.empty()) return otherwise;
-    Answer answer = std::move(queue.front());
+    otherwise = std::move(queue.front());
     queue.pop_front();
-    return answer;
+    return otherwise;
   }
 };
 
