@@ -180,6 +180,19 @@ const Road kRoads[] = {
      },
      [](Desk& d) { d.Menu(MenuEntry::mnuedipmon, {"&H1", "AB"}); }, {},
      "no longer names the game that was opened (AXVE): it now reads \"BPRE\""},
+    {"a landing whose load failed is saved only once a load reads it",
+     [](Desk& d) {
+       d.Open(d.ruby);
+       d.Show(WindowName::Form8);
+       SelectLocation(d.session.form8, d.rom, d.form, FlyList::hoenn, 8);
+       std::filesystem::resize_file(ToFilePath(d.path), 0x300000);
+       EXPECT_THAT(test::FailureOf([&] { SelectLocation(d.session.form8, d.rom, d.form, FlyList::hoenn, 9); }),
+                   HasSubstr("does not lie wholly inside the ROM"));
+       EXPECT_EQ(d.session.form8.BL.caption + d.session.form8.XXt.text, "B:0&H00");
+       d.Put(d.ruby);  // the whole ROM again, in place
+     },
+     [](Desk& d) { PressSavebutton(d.session.form8, d.rom, d.form, d.dialogs); }, {},
+     "Pick a location, or press \"Load\""},
     {"starters past the end of a short ROM show no value, and are saved only once read",
      [](Desk& d) {
        d.Open(d.ruby);
