@@ -51,9 +51,10 @@ std::int64_t ScriptLength(const Form4& form) {
                              : std::ssize(BuildWildBattleMessageScript(0, 0, 0, 0, 0));
 }
 
-// Upper-case ASCII letters, so that a name typed in small letters names its row.
+// Upper-case ASCII letters, so that a name typed in small letters names its row, and no blanks
+// at the end: a renamed species' row is filled up with them to the field's length.
 std::string Folded(std::string_view text) {
-  std::string folded(text);
+  std::string folded(text.substr(0, text.find_last_not_of(' ') + 1));
   for (char& c : folded) c = (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
   return folded;
 }
@@ -95,7 +96,7 @@ void PickTypedSpecies(WildBattleForm& form, Dialogs& dialogs) {
   const std::string typed = Folded(form.Combo1.text);
   const auto& rows = form.Combo1.rows;
   auto row = std::ranges::find_if(rows, [&](const std::string& r) { return Folded(r) == typed; });
-  if (row == rows.end()) {
+  if (row == rows.end() && !typed.empty()) {  // nothing typed names no row, also not one of blanks
     row = std::ranges::find_if(rows, [&](const std::string& r) {
       const std::size_t at = r.find(kRowNameAfter);
       return at != std::string::npos && Folded(r.substr(at + kRowNameAfter.size())) == typed;

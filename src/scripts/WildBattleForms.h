@@ -75,8 +75,8 @@ void SetCombo3Selection(Form3& form, int index);
 void SetCombo3Selection(Form4& form, int index);
 
 // Enter in Combo1, whose box takes typing: picks the row whose name (the text behind
-// "096 - ") or whole text is the typed text, in any case, as SetCombo1Selection does; or
-// says that no row is. Inserts nothing.
+// "096 - ") or whole text is the typed text, in any case and without blanks at the end, as
+// SetCombo1Selection does; or says that no row is. Inserts nothing.
 void PickTypedSpecies(WildBattleForm& form, Dialogs& dialogs);
 
 // "Insert Teh Script". Form3 parses pkmntxt, Text1, crytxt, Text2, Text3; Form4 pkmntxt,

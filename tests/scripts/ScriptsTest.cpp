@@ -421,11 +421,12 @@ TEST(FreeSpaceTest, EachButtonFindsRoomForItsPieceOrSaysThereIsNone) {
 TEST(ScriptBuildersTest, EnterInTheSpeciesBoxPicksTheRowTyped) {
   const std::pair<const char*, int> rows[] = {
       {"MEWTWO", 150}, {"mewtwo", 150}, {"096 - MEWTWO", 150}, {"096 - mewTwo", 150}, {"MEW", 151},
-      {"MEWT", -1},    {"096", -1},     {"", -1},             {"Select a Pokemon", -1},
+      {"MEWT", -1},    {"096", -1},     {"", -1},             {"Select a Pokemon", -1}, {"pika", 0x19},  // renamed
   };
   for (const auto& [typed, row] : rows) {
     Form3 form;
     for (int i = 0; i < 412; ++i) form.Combo1.rows.push_back(NumberedRow(i, i == 150 ? "MEWTWO" : i == 151 ? "MEW" : "?"));
+    form.Combo1.rows[0x19] = "019 - PIKA       ";  // as a rename fills it up
     form.Combo1.text = typed;
     ScriptedDialogs ui;
     PickTypedSpecies(form, ui);
