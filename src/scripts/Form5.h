@@ -74,9 +74,10 @@ void SetCombo2Selection(Form5& form, int index);  // Text2
 void InsertGivePokemon(Form5& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
 
 // "Find Free Space" beside Text3: free space for the whole block of the mode Check1 selects,
-// kept clear of the question at Text12. Beside Text12: asks for the question in the insert's
-// input box (Cancel stops), keeps it for the insert, and finds free space for its bytes, kept
-// clear of the block at Text3.
+// kept clear of the question at Text12 (asked for first while none is kept). Beside Text12:
+// asks for the question in the insert's input box (Cancel stops), keeps it for the insert,
+// and finds free space for its bytes, kept clear of the block at Text3. The button's own
+// field is parsed before any question (MessageForFreeSpace).
 void PressFindScriptSpace(Form5& form, RomImage& rom, Dialogs& dialogs);
 void PressFindTextSpace(Form5& form, RomImage& rom, Dialogs& dialogs);
 

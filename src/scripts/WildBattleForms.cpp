@@ -164,12 +164,16 @@ void PressFindScriptSpace(Form3& form, RomImage& rom, Dialogs& dialogs) {
 }
 
 void PressFindScriptSpace(Form4& form, RomImage& rom, Dialogs& dialogs) {
+  const std::optional<std::string> message = MessageForFreeSpace(form.Text3, kScriptField, form.Text12, dialogs,
+                                                                 kWildMessageTitle, kWildMessagePrompt, form.keptMessage);
+  if (!message) return;
   PressFindFreeSpace(form.Text3, kScriptField, kScriptPiece, ScriptLength(form), &form.Text12,
-                     std::ssize(BuilderMessageBytes(form.Check1, form.keptMessage)), rom, dialogs);
+                     std::ssize(BuilderMessageBytes(form.Check1, *message)), rom, dialogs);
 }
 
 void PressFindTextSpace(Form4& form, RomImage& rom, Dialogs& dialogs) {
-  const std::optional<std::string> typed = AskMessage(dialogs, kWildMessageTitle, kWildMessagePrompt, form.keptMessage);
+  const std::optional<std::string> typed = MessageForFreeSpace(form.Text12, kTextField, form.Text12, dialogs,
+                                                               kWildMessageTitle, kWildMessagePrompt, form.keptMessage);
   if (!typed) return;
   PressFindFreeSpace(form.Text12, kTextField, "the message", std::ssize(BuilderMessageBytes(form.Check1, *typed)),
                      &form.Text3, ScriptLength(form), rom, dialogs);

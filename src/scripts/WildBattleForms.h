@@ -94,9 +94,11 @@ void InsertWildBattle(Form3& form, const Form1& main, RomImage& rom, Dialogs& di
 void InsertWildBattle(Form4& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
 
 // "Find Free Space" beside Text3: free space for the script of the mode Check1 selects,
-// kept clear of Form4's message at Text12. Beside Text12 (Form4): asks for the message in
-// the insert's input box (Cancel stops), keeps it for the insert, and finds free space for
-// its bytes, kept clear of the script at Text3. See PressFindFreeSpace (forms/FreeSpace.h).
+// kept clear of Form4's message at Text12 (asked for first while none is kept). Beside
+// Text12 (Form4): asks for the message in the insert's input box (Cancel stops), keeps it
+// for the insert, and finds free space for its bytes, kept clear of the script at Text3. The
+// button's own field is parsed before any question (MessageForFreeSpace). See
+// PressFindFreeSpace (forms/FreeSpace.h).
 void PressFindScriptSpace(Form3& form, RomImage& rom, Dialogs& dialogs);
 void PressFindScriptSpace(Form4& form, RomImage& rom, Dialogs& dialogs);
 void PressFindTextSpace(Form4& form, RomImage& rom, Dialogs& dialogs);
