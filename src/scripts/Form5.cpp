@@ -50,7 +50,6 @@ void LoadForm5Lists(Form5& form, Form1& main, RomImage& rom) {
   form.Combo2.Clear();
   form.Text2.text = Form5{}.Text2.text;
   if (HasItemTable(rom, main)) form.Combo2.rows = LoadItemList(rom, main.itemRecords);
-  form.filled.Fill(main);
 }
 
 void SetCombo1Selection(Form5& form, int index) {

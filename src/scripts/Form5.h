@@ -38,7 +38,8 @@ struct Form5 {
   Button Command3{kFindFreeSpaceCaption};  // beside Text12
   std::string keptMessage;  // hidden: the question last typed, the next input box's text
 
-  // The Open ROM after which the lists were read.
+  // The Open ROM after which the person opened the form. Lists refilled for another window
+  // (LoadForm5Lists) leave it: what was typed in may belong to the ROM opened before.
   FilledAt filled;
 };
 
@@ -52,7 +53,7 @@ inline constexpr std::string_view kGiveMessagePrompt =
 // item list read from the ROM. With no ROM open, an itemRecords that is no offset or that
 // belongs to no table of this ROM (Form1::tables), the item list is empty and nothing is
 // said. Clears both lists' selections, puts the held item back to its initial text, and
-// leaves every other field as it stands.
+// leaves every other field as it stands, `filled` too: a refill is no opening of the form.
 void LoadForm5Lists(Form5& form, Form1& main, RomImage& rom);
 
 // Choosing a row puts its number into the field behind the list.
