@@ -75,6 +75,11 @@ void PressLoadbutton(Form8& form, RomImage& rom, const Form1& main) {
     throw;
   }
   if (record) {
+    // Emerald names its last two records otherwise than Ruby and Sapphire: the list that stands
+    // names the records of the game open now, whichever game the window opened on.
+    if (const auto table = FindFlyTable(IdentityOf(main)); form.hoenn.visible && table->list != FlyList::kanto) {
+      form.hoenn.rows = LocationRows(table->list);
+    }
     ShowRecord(form, *record);
     form.filled.Fill(main);
   }
