@@ -78,10 +78,11 @@ struct Form6 {
 };
 
 // Insert: asks, and on Yes writes the record (the six header fields, Text1's cells, 0xFF 0x00)
-// at Text2 and its script at Text3. Every field is parsed, the pointer made, and both blocks
-// passed by the write rule (forms/WriteRule.h: inside the file, out of the cartridge header,
-// from a window of the ROM that is open) and its free-space question before the first write:
-// a Failure there, or No, writes nothing.
+// at Text2 and its script at Text3. A window that may not write (the write rule's file, and a
+// window filled before the last Open ROM) is refused before the question. Then every field is
+// parsed, the pointer made, and both blocks passed by the write rule (forms/WriteRule.h: inside
+// the file, out of the cartridge header, apart from each other) and its free-space question
+// before the first write: a Failure there, or No, writes nothing.
 void PressInsert(Form6& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
 
 // "Find Free Space" beside Text2: free space for the record of the text in Text1 (header,

@@ -23,11 +23,6 @@ struct NameTable {
 constexpr NameTable kSpeciesNames{"Pokemon", "Monster Names", &Form1::Label20, kSpeciesNameLength, kSpeciesNameLength};
 constexpr NameTable kItemNames{"Item", "Item Names", &Form1::itemRecords, kItemRecordLength, kItemNameLength};
 
-constexpr std::string_view kNoTablesOfThisRom =
-    "The name tables of the ROM that is open are not known: it is a game that Tessarine does not know, and the "
-    "Unsupported ROM dialog was left without \"Continue\". Open the ROM again and give its tables there, or open a "
-    "ROM of a known game.";
-
 void WriteName(RomImage& rom, const Form1& main, const NameTable& table, std::int32_t entry, std::string_view name) {
   RomWrite write(rom, main);
   write.From(main.tables, kNoTablesOfThisRom).Check();  // the table offset is this ROM's before it is read

@@ -17,6 +17,14 @@ inline constexpr std::string_view kPokemonNamePrompt =
 inline constexpr std::string_view kItemEntryPrompt = "Enter &H and the Hex of the Item you would like to edit.";
 inline constexpr std::string_view kItemNamePrompt = "Enter a new name. Max Length 14, Any more and you will screw up.";
 
+// Why no tool reads or writes the name tables (main.Label20, main.itemRecords) of a ROM that
+// is open while they belong to no ROM open (Form1::tables): an unknown game whose Unsupported
+// ROM dialog was left without "Continue".
+inline constexpr std::string_view kNoTablesOfThisRom =
+    "The name tables of the ROM that is open are not known: it is a game that Tessarine does not know, and the "
+    "Unsupported ROM dialog was left without \"Continue\". Open the ROM again and give its tables there, or open a "
+    "ROM of a known game.";
+
 // The typed name cut to its first `characters` characters, or filled up to them with
 // blanks. Counts characters, not bytes, and does it before encoding, so a form of several
 // characters such as "[PK]" counts as all of them and may be cut in two.

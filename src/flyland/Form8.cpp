@@ -3,6 +3,7 @@
 #include "flyland/MapImages.h"
 #include "flyland/MapView.h"
 #include "forms/Dialogs.h"
+#include "rom/Failure.h"
 #include "rom/HexField.h"
 
 namespace tessarine {
@@ -60,7 +61,25 @@ void SelectLocation(Form8& form, RomImage& rom, const Form1& main, FlyList list,
 }
 
 void PressLoadbutton(Form8& form, RomImage& rom, const Form1& main) {
-  if (const auto record = ReadFlyRecord(rom, IdentityOf(main), RecordOnScreen(form))) {
+  std::optional<FlyRecord> record;
+  try {
+    record = ReadFlyRecord(rom, IdentityOf(main), RecordOnScreen(form));
+  } catch (const Failure&) {
+    // The fields hold no record of this ROM: Save refuses until a load reads one.
+    const Form8 start;
+    form.BL.caption = start.BL.caption;
+    form.LB.caption = start.LB.caption;
+    form.XXt.text = start.XXt.text;
+    form.YYt.text = start.YYt.text;
+    form.filled = {};
+    throw;
+  }
+  if (record) {
+    // Emerald names its last two records otherwise than Ruby and Sapphire: the list that stands
+    // names the records of the game open now, whichever game the window opened on.
+    if (const auto table = FindFlyTable(IdentityOf(main)); form.hoenn.visible && table->list != FlyList::kanto) {
+      form.hoenn.rows = LocationRows(table->list);
+    }
     ShowRecord(form, *record);
     form.filled.Fill(main);
   }

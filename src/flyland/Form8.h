@@ -140,7 +140,9 @@ void LoadForm8(Form8& form, const Form1& main, Dialogs& dialogs);
 void SelectLocation(Form8& form, RomImage& rom, const Form1& main, FlyList list, int index);
 
 // Load: shows bank, level and landing tile of the record mapnumber names, and puts the
-// landing markers on that tile.
+// landing markers on that tile. A read that fails (a record past the end of the file) puts
+// those fields back to their start texts and leaves the window holding no record of the ROM
+// (FilledAt cleared), so that Save refuses until a load succeeds.
 void PressLoadbutton(Form8& form, RomImage& rom, const Form1& main);
 
 // Save: writes XXt and YYt into the record, says "Saved", and loads the record afresh.

@@ -4,6 +4,7 @@
 #include "forms/Dialogs.h"
 #include "forms/WriteRule.h"
 #include "rom/Failure.h"
+#include "rom/HexField.h"
 #include "scripts/ScriptBuilders.h"
 
 namespace tessarine {
@@ -23,6 +24,21 @@ std::optional<std::string> AskMessage(Dialogs& dialogs, std::string_view title, 
   std::optional<std::string> typed = dialogs.Input(prompt, title, kept);
   if (typed) kept = *typed;
   return typed;
+}
+
+std::optional<std::string> MessageForFreeSpace(const TextBox& field, std::string_view fieldName,
+                                               const TextBox& textField, Dialogs& dialogs, std::string_view title,
+                                               std::string_view prompt, std::string& kept) {
+  static_cast<void>(ParseOffset(field.text, fieldName));
+  if (&field != &textField) {
+    if (!kept.empty()) return kept;
+    try {
+      static_cast<void>(ParseInsertOffset(textField.text, {}));
+    } catch (const Failure&) {
+      return kept;  // no place for a message yet: nothing to keep clear of
+    }
+  }
+  return AskMessage(dialogs, title, prompt, kept);
 }
 
 bool AskAndWriteMessage(RomWrite& write, Dialogs& dialogs, std::string_view title, std::string_view prompt,

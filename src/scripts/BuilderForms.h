@@ -13,6 +13,7 @@ namespace tessarine {
 class Dialogs;
 class RomWrite;
 struct CheckBox;
+struct TextBox;
 struct WritePiece;
 
 // What the three builder forms (Form3, Form4, Form5) share.
@@ -47,5 +48,15 @@ inline constexpr std::string_view kWildMessagePrompt =
 // cancelled: the insert then stops, with nothing written.
 std::optional<std::string> AskMessage(Dialogs& dialogs, std::string_view title, std::string_view prompt,
                                       std::string& kept);
+
+// The message that a "Find Free Space" button beside `field` finds room for, or keeps clear
+// of. The button's own field is parsed first: one that is no offset is refused before any
+// question. Beside the text offset (`field` is `textField`) the message is asked for as
+// AskMessage does; beside the script offset only while none is kept and `textField` holds a
+// place for one (ParseInsertOffset), so that the place kept clear of is as long as the
+// message the insert will write. None when the box was cancelled: the search stops.
+std::optional<std::string> MessageForFreeSpace(const TextBox& field, std::string_view fieldName,
+                                               const TextBox& textField, Dialogs& dialogs, std::string_view title,
+                                               std::string_view prompt, std::string& kept);
 
 }  // namespace tessarine

@@ -50,7 +50,6 @@ void LoadForm5Lists(Form5& form, Form1& main, RomImage& rom) {
   form.Combo2.Clear();
   form.Text2.text = Form5{}.Text2.text;
   if (HasItemTable(rom, main)) form.Combo2.rows = LoadItemList(rom, main.itemRecords);
-  form.filled.Fill(main);
 }
 
 void SetCombo1Selection(Form5& form, int index) {
@@ -113,12 +112,16 @@ void InsertGivePokemon(Form5& form, const Form1& main, RomImage& rom, Dialogs& d
 }
 
 void PressFindScriptSpace(Form5& form, RomImage& rom, Dialogs& dialogs) {
+  const std::optional<std::string> question = MessageForFreeSpace(form.Text3, kScriptField, form.Text12, dialogs,
+                                                                  kGiveMessageTitle, kGiveMessagePrompt, form.keptMessage);
+  if (!question) return;
   PressFindFreeSpace(form.Text3, kScriptField, "the script", BlockLength(form), &form.Text12,
-                     std::ssize(BuilderMessageBytes(form.Check1, form.keptMessage)), rom, dialogs);
+                     std::ssize(BuilderMessageBytes(form.Check1, *question)), rom, dialogs);
 }
 
 void PressFindTextSpace(Form5& form, RomImage& rom, Dialogs& dialogs) {
-  const std::optional<std::string> typed = AskMessage(dialogs, kGiveMessageTitle, kGiveMessagePrompt, form.keptMessage);
+  const std::optional<std::string> typed = MessageForFreeSpace(form.Text12, kTextField, form.Text12, dialogs,
+                                                               kGiveMessageTitle, kGiveMessagePrompt, form.keptMessage);
   if (!typed) return;
   PressFindFreeSpace(form.Text12, kTextField, kQuestion, std::ssize(BuilderMessageBytes(form.Check1, *typed)),
                      &form.Text3, BlockLength(form), rom, dialogs);

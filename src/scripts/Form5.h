@@ -38,7 +38,8 @@ struct Form5 {
   Button Command3{kFindFreeSpaceCaption};  // beside Text12
   std::string keptMessage;  // hidden: the question last typed, the next input box's text
 
-  // The Open ROM after which the lists were read.
+  // The Open ROM after which the person opened the form. Lists refilled for another window
+  // (LoadForm5Lists) leave it: what was typed in may belong to the ROM opened before.
   FilledAt filled;
 };
 
@@ -52,7 +53,7 @@ inline constexpr std::string_view kGiveMessagePrompt =
 // item list read from the ROM. With no ROM open, an itemRecords that is no offset or that
 // belongs to no table of this ROM (Form1::tables), the item list is empty and nothing is
 // said. Clears both lists' selections, puts the held item back to its initial text, and
-// leaves every other field as it stands.
+// leaves every other field as it stands, `filled` too: a refill is no opening of the form.
 void LoadForm5Lists(Form5& form, Form1& main, RomImage& rom);
 
 // Choosing a row puts its number into the field behind the list.
@@ -74,9 +75,10 @@ void SetCombo2Selection(Form5& form, int index);  // Text2
 void InsertGivePokemon(Form5& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
 
 // "Find Free Space" beside Text3: free space for the whole block of the mode Check1 selects,
-// kept clear of the question at Text12. Beside Text12: asks for the question in the insert's
-// input box (Cancel stops), keeps it for the insert, and finds free space for its bytes, kept
-// clear of the block at Text3.
+// kept clear of the question at Text12 (asked for first while none is kept). Beside Text12:
+// asks for the question in the insert's input box (Cancel stops), keeps it for the insert,
+// and finds free space for its bytes, kept clear of the block at Text3. The button's own
+// field is parsed before any question (MessageForFreeSpace).
 void PressFindScriptSpace(Form5& form, RomImage& rom, Dialogs& dialogs);
 void PressFindTextSpace(Form5& form, RomImage& rom, Dialogs& dialogs);
 

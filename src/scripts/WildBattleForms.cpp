@@ -51,9 +51,10 @@ std::int64_t ScriptLength(const Form4& form) {
                              : std::ssize(BuildWildBattleMessageScript(0, 0, 0, 0, 0));
 }
 
-// Upper-case ASCII letters, so that a name typed in small letters names its row.
+// Upper-case ASCII letters, so that a name typed in small letters names its row, and no blanks
+// at the end: a renamed species' row is filled up with them to the field's length.
 std::string Folded(std::string_view text) {
-  std::string folded(text);
+  std::string folded(text.substr(0, text.find_last_not_of(' ') + 1));
   for (char& c : folded) c = (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
   return folded;
 }
@@ -95,7 +96,7 @@ void PickTypedSpecies(WildBattleForm& form, Dialogs& dialogs) {
   const std::string typed = Folded(form.Combo1.text);
   const auto& rows = form.Combo1.rows;
   auto row = std::ranges::find_if(rows, [&](const std::string& r) { return Folded(r) == typed; });
-  if (row == rows.end()) {
+  if (row == rows.end() && !typed.empty()) {  // nothing typed names no row, also not one of blanks
     row = std::ranges::find_if(rows, [&](const std::string& r) {
       const std::size_t at = r.find(kRowNameAfter);
       return at != std::string::npos && Folded(r.substr(at + kRowNameAfter.size())) == typed;
@@ -163,12 +164,16 @@ void PressFindScriptSpace(Form3& form, RomImage& rom, Dialogs& dialogs) {
 }
 
 void PressFindScriptSpace(Form4& form, RomImage& rom, Dialogs& dialogs) {
+  const std::optional<std::string> message = MessageForFreeSpace(form.Text3, kScriptField, form.Text12, dialogs,
+                                                                 kWildMessageTitle, kWildMessagePrompt, form.keptMessage);
+  if (!message) return;
   PressFindFreeSpace(form.Text3, kScriptField, kScriptPiece, ScriptLength(form), &form.Text12,
-                     std::ssize(BuilderMessageBytes(form.Check1, form.keptMessage)), rom, dialogs);
+                     std::ssize(BuilderMessageBytes(form.Check1, *message)), rom, dialogs);
 }
 
 void PressFindTextSpace(Form4& form, RomImage& rom, Dialogs& dialogs) {
-  const std::optional<std::string> typed = AskMessage(dialogs, kWildMessageTitle, kWildMessagePrompt, form.keptMessage);
+  const std::optional<std::string> typed = MessageForFreeSpace(form.Text12, kTextField, form.Text12, dialogs,
+                                                               kWildMessageTitle, kWildMessagePrompt, form.keptMessage);
   if (!typed) return;
   PressFindFreeSpace(form.Text12, kTextField, "the message", std::ssize(BuilderMessageBytes(form.Check1, *typed)),
                      &form.Text3, ScriptLength(form), rom, dialogs);

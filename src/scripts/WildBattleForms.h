@@ -75,8 +75,8 @@ void SetCombo3Selection(Form3& form, int index);
 void SetCombo3Selection(Form4& form, int index);
 
 // Enter in Combo1, whose box takes typing: picks the row whose name (the text behind
-// "096 - ") or whole text is the typed text, in any case, as SetCombo1Selection does; or
-// says that no row is. Inserts nothing.
+// "096 - ") or whole text is the typed text, in any case and without blanks at the end, as
+// SetCombo1Selection does; or says that no row is. Inserts nothing.
 void PickTypedSpecies(WildBattleForm& form, Dialogs& dialogs);
 
 // "Insert Teh Script". Form3 parses pkmntxt, Text1, crytxt, Text2, Text3; Form4 pkmntxt,
@@ -94,9 +94,11 @@ void InsertWildBattle(Form3& form, const Form1& main, RomImage& rom, Dialogs& di
 void InsertWildBattle(Form4& form, const Form1& main, RomImage& rom, Dialogs& dialogs);
 
 // "Find Free Space" beside Text3: free space for the script of the mode Check1 selects,
-// kept clear of Form4's message at Text12. Beside Text12 (Form4): asks for the message in
-// the insert's input box (Cancel stops), keeps it for the insert, and finds free space for
-// its bytes, kept clear of the script at Text3. See PressFindFreeSpace (forms/FreeSpace.h).
+// kept clear of Form4's message at Text12 (asked for first while none is kept). Beside
+// Text12 (Form4): asks for the message in the insert's input box (Cancel stops), keeps it
+// for the insert, and finds free space for its bytes, kept clear of the script at Text3. The
+// button's own field is parsed before any question (MessageForFreeSpace). See
+// PressFindFreeSpace (forms/FreeSpace.h).
 void PressFindScriptSpace(Form3& form, RomImage& rom, Dialogs& dialogs);
 void PressFindScriptSpace(Form4& form, RomImage& rom, Dialogs& dialogs);
 void PressFindTextSpace(Form4& form, RomImage& rom, Dialogs& dialogs);

@@ -5,6 +5,7 @@
 
 namespace tessarine {
 
+class Dialogs;
 struct Session;
 
 // The loads of the script builder forms, and the item list that Form5 owns for every tool.
@@ -16,7 +17,8 @@ struct Session;
 // keeps what the Unsupported ROM dialog gave), the species list copied from the main
 // window, the item list read from the ROM. A Form5 that is loaded and current is left
 // alone, also while it is on the screen; one that is on the screen but stale takes the new
-// lists and keeps what was typed into it.
+// lists and keeps what was typed into it, and its Insert refuses it as filled before the last
+// Open ROM until the person opens the form again.
 //
 // Afterwards session.form1.itemRecords and the returned rows (session.form5.Combo2) belong
 // to the ROM that is open. Never throws and never asks: with no ROM open, or an
@@ -26,10 +28,12 @@ const std::vector<std::string>& RequireForm5Loaded(Session& session);
 
 // Each form's load, when it is shown and no window of it stands: its controls take their
 // initial values, then its lists are filled. Form3 and Form4 ask RequireForm5Loaded for
-// the item list.
-void LoadForm3(Session& session);
-void LoadForm4(Session& session);
-void LoadForm5(Session& session);
+// the item list; Form5 counts as filled after this Open ROM only here, at the person's
+// opening. On a ROM whose name tables are not known (Form1::tables), the item list is empty
+// and kNoTablesOfThisRom is told once.
+void LoadForm3(Session& session, Dialogs& dialogs);
+void LoadForm4(Session& session, Dialogs& dialogs);
+void LoadForm5(Session& session, Dialogs& dialogs);
 
 // Form5 closed: no longer loaded, so the next need reads its lists again.
 void UnloadForm5(Session& session);

@@ -31,9 +31,9 @@ void ResetWindow(Session& session, WindowName window) {
 void LoadWindow(Session& session, Dialogs& dialogs, WindowName window) {
   switch (window) {
     case WindowName::Form2: LoadForm2(session.form2, session.form1, session.rom, dialogs); break;
-    case WindowName::Form3: LoadForm3(session); break;
-    case WindowName::Form4: LoadForm4(session); break;
-    case WindowName::Form5: LoadForm5(session); break;
+    case WindowName::Form3: LoadForm3(session, dialogs); break;
+    case WindowName::Form4: LoadForm4(session, dialogs); break;
+    case WindowName::Form5: LoadForm5(session, dialogs); break;
     case WindowName::Form8: LoadForm8(session.form8, session.form1, dialogs); break;
     case WindowName::frmAbout: LoadAbout(session.about); break;
     case WindowName::Form6: session.form6.filled.Fill(session.form1); break;

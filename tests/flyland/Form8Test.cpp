@@ -20,7 +20,7 @@ TEST(FlyRecordsTest, EachGameReadsItsRecordFromItsOwnTable) {
   }
   for (const auto& [game, index, offset] : cases) {
     SCOPED_TRACE(ShownIdentity(game) + " " + std::to_string(index));
-    FixtureRom fixture(game.code);
+    FixtureRom fixture(game.code, FixtureRom::kSize, std::max(game.revision, 0));
     fixture.PutBytes(offset - 8, Bytes(24, 0x99)).PutBytes(offset, {0, 0, 0x1A, 0, 0x2B, 0, 0x3C, 0});
     RomImage rom;
     rom.Open(fixture.path());
@@ -28,6 +28,11 @@ TEST(FlyRecordsTest, EachGameReadsItsRecordFromItsOwnTable) {
     ASSERT_TRUE(record.has_value());
     EXPECT_EQ(BankText(record->bank) + LevelText(record->level), "B:1AL:0");
     EXPECT_EQ(record->X * 0x100 + record->Y, 0x2B3C);
+    Form1 main;  // and a save writes X and Y of that record, and nothing else
+    std::tie(main.headtxt, main.revision) = std::pair(game.code, game.revision);
+    const test::ByteOracle oracle(fixture.path());
+    WriteFlyPosition(rom, main, FilledAt{0}, index, "&H1F", "&H20");
+    EXPECT_EQ(oracle.Written(), (test::WrittenRuns{{offset + 4, "1F"}, {offset + 6, "20"}}));
   }
   RomImage closed;  // an unknown game has no table: not even a closed file is asked
   EXPECT_FALSE(ReadFlyRecord(closed, {"axpe", 0}, 0).has_value());
@@ -87,8 +92,10 @@ struct Wingfall : ::testing::Test {
 };
 
 TEST_F(Wingfall, LoadRightAfterOpeningTakesRecord0AndAPickLoadsAtOnce) {
+  form.hoenn.rows = LocationRows(FlyList::emerald);  // as if the window had opened on Emerald
   PressLoadbutton(form, s.rom, s.form);
   EXPECT_EQ(Landing(), "B:1A L:0 &H5 &H7 at 80,112");
+  EXPECT_EQ(form.hoenn.rows.at(18), "Battle Tower");  // the list names Ruby's records
   SelectLocation(form, s.rom, s.form, FlyList::hoenn, 17);
   EXPECT_EQ(form.hoenn.text + " " + form.mapnumber, "Ever Grande City 17");
   EXPECT_EQ(Landing(), "B:2 L:C &H21 &H13 at 528,304");

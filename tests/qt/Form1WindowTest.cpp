@@ -188,7 +188,7 @@ TEST_F(Form1WindowTest, AGbaFileDroppedOnTheWindowOpensAndAnythingElseIsRefusedB
 }
 
 TEST_F(Form1WindowTest, AnUnknownGameShowsTheUnsupportedRomDialogInsteadOfTheMainWindow) {
-  test::FixtureRom emerald = test::FixtureRom::Emerald();
+  test::FixtureRom emerald = test::FixtureRom::JapaneseEmerald();
   ClickOpen(emerald.path());
   EXPECT_THAT(dialogs.MessageTexts(), ElementsAre("Unsupported ROM"));
   QWidget* form9 = shell.Window(WindowName::Form9);

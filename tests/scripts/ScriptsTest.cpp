@@ -374,8 +374,9 @@ TEST(FreeSpaceTest, FindsTheFirstAlignedRunWithOneFFBehind) {
 }
 
 // The "Find Free Space" buttons: each puts the first place for its piece into its field, clear of the
-// form's other piece (and an FF behind each); one beside a text field asks for the message first and
-// keeps it for the insert (the windows' test shows it there). Each press returns what its field shows then.
+// form's other piece (and an FF behind each); one beside a text field, or beside the script while no
+// message is kept for a text offset, asks for the message first and keeps it for the insert (the
+// windows' test shows it there). Each press returns what its field shows then.
 TEST(FreeSpaceTest, EachButtonFindsRoomForItsPieceOrSaysThereIsNone) {
   const struct {
     std::function<std::string(Builder&)> press;
@@ -387,12 +388,12 @@ TEST(FreeSpaceTest, EachButtonFindsRoomForItsPieceOrSaysThereIsNone) {
        "&H7A0010AB"},
       {[](Builder& b) {
          b.form4.Text12.text = "&H700100";
-         return PressFindScriptSpace(b.form4, b.rom, b.dialogs), b.form4.Text3.text;
-       }, "&H700104"},  // behind FF 00 and one FF
+         return PressFindScriptSpace(b.form4, b.rom, b.dialogs), b.form4.Text3.text + b.form4.keptMessage;
+       }, "&H700108AB"},  // behind the message asked for first (BB BC FF 00) and one FF
       {[](Builder& b) {
          b.form5.Check1.checked = true, b.form5.Text12.text = "&H700180";  // the game-ready block
-         return PressFindScriptSpace(b.form5, b.rom, b.dialogs), b.form5.Text3.text;
-       }, "&H700184"},
+         return PressFindScriptSpace(b.form5, b.rom, b.dialogs), b.form5.Text3.text + b.form5.keptMessage;
+       }, "&H700184AB"},
       {[](Builder& b) { return PressFindTextSpace(b.form5, b.rom, b.dialogs), b.form5.Text12.text; }, "&H7A0010"},
       {[](Builder& b) {
          b.form3.Text3.text = "&HFFFFF4";
@@ -412,20 +413,23 @@ TEST(FreeSpaceTest, EachButtonFindsRoomForItsPieceOrSaysThereIsNone) {
     EXPECT_EQ(b.dialogs.MessageTexts(), *row.said ? std::vector<std::string>{row.said} : std::vector<std::string>{});
     EXPECT_THAT(oracle.Changes(), IsEmpty());
   }
-  Builder b;  // a field that is no offset is named
-  b.form3.Text3.text = "xyz";
+  Builder b;  // a field that is no offset is named, before any question
+  b.form3.Text3.text = b.form4.Text12.text = "xyz";
   EXPECT_THAT(FailureOf([&] { PressFindScriptSpace(b.form3, b.rom, b.dialogs); }), HasSubstr("Offset: \"xyz\""));
+  EXPECT_THAT(FailureOf([&] { PressFindTextSpace(b.form4, b.rom, b.dialogs); }), HasSubstr("Text Offset: \"xyz\""));
+  EXPECT_THAT(b.dialogs.inputs, IsEmpty());
 }
 
 // Enter in the species box picks the row named by what was typed, and only that.
 TEST(ScriptBuildersTest, EnterInTheSpeciesBoxPicksTheRowTyped) {
   const std::pair<const char*, int> rows[] = {
       {"MEWTWO", 150}, {"mewtwo", 150}, {"096 - MEWTWO", 150}, {"096 - mewTwo", 150}, {"MEW", 151},
-      {"MEWT", -1},    {"096", -1},     {"", -1},             {"Select a Pokemon", -1},
+      {"MEWT", -1},    {"096", -1},     {"", -1},             {"Select a Pokemon", -1}, {"pika", 0x19},  // renamed
   };
   for (const auto& [typed, row] : rows) {
     Form3 form;
     for (int i = 0; i < 412; ++i) form.Combo1.rows.push_back(NumberedRow(i, i == 150 ? "MEWTWO" : i == 151 ? "MEW" : "?"));
+    form.Combo1.rows[0x19] = "019 - PIKA       ";  // as a rename fills it up
     form.Combo1.text = typed;
     ScriptedDialogs ui;
     PickTypedSpecies(form, ui);

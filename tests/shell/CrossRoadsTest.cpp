@@ -89,18 +89,27 @@ const Road kRoads[] = {
      [](Desk& d) { d.form.Text1.text = "&H0", d.Save(); },
      {{0x38EE51, 1}, {0xA00108, 2}},  // sprite &H50; the cry typed (&H19 over &H181); the species kept
      ""},
-    {"a refilled item list writes the item it shows",
+    {"a list refilled for another window shows its item and writes nothing until the form is opened",
      [](Desk& d) {
        GiftOnFireRed(d);
        d.Open(d.ruby);
        d.Show(WindowName::Form3);  // takes the item list from the give-Pokemon form on show
-     },
-     [](Desk& d) {
-       d.dialogs.inputAnswers = {"AB"};
-       InsertGivePokemon(d.session.form5, d.form, d.rom, d.dialogs);
        EXPECT_EQ(d.session.form5.Text2.text, "&H0000");
      },
-     {{0x700000, 83}, {0x70005D, 9}, {0x700067, 48}, {0x7A0000, 2}, {0x7A0003, 1}}, ""},  // FF stood at T+2
+     [](Desk& d) { InsertGivePokemon(d.session.form5, d.form, d.rom, d.dialogs); }, {},
+     "This window was filled before the last Open ROM"},
+    {"after Quit the builders' item list is empty, and says why once",
+     [](Desk& d) {
+       GiftOnFireRed(d);
+       d.Open(d.unknown);
+       PressQuit(d.session.form9, d.dialogs);
+     },
+     [](Desk& d) {
+       d.Show(WindowName::Form4);
+       EXPECT_TRUE(d.session.form4.Combo2.rows.empty() && d.session.form5.Combo2.rows.empty());
+       EXPECT_EQ(d.dialogs.messages.size(), 1u);
+     },
+     {}, "The name tables of the ROM that is open are not known"},
     {"after an unknown game the event Load reads nothing at the offsets of the game before",
      [](Desk& d) {
        d.Open(d.fireRed);
@@ -180,6 +189,19 @@ const Road kRoads[] = {
      },
      [](Desk& d) { d.Menu(MenuEntry::mnuedipmon, {"&H1", "AB"}); }, {},
      "no longer names the game that was opened (AXVE): it now reads \"BPRE\""},
+    {"a landing whose load failed is saved only once a load reads it",
+     [](Desk& d) {
+       d.Open(d.ruby);
+       d.Show(WindowName::Form8);
+       SelectLocation(d.session.form8, d.rom, d.form, FlyList::hoenn, 8);
+       std::filesystem::resize_file(ToFilePath(d.path), 0x300000);
+       EXPECT_THAT(test::FailureOf([&] { SelectLocation(d.session.form8, d.rom, d.form, FlyList::hoenn, 9); }),
+                   HasSubstr("does not lie wholly inside the ROM"));
+       EXPECT_EQ(d.session.form8.BL.caption + d.session.form8.XXt.text, "B:0&H00");
+       d.Put(d.ruby);  // the whole ROM again, in place
+     },
+     [](Desk& d) { PressSavebutton(d.session.form8, d.rom, d.form, d.dialogs); }, {},
+     "Pick a location, or press \"Load\""},
     {"starters past the end of a short ROM show no value, and are saved only once read",
      [](Desk& d) {
        d.Open(d.ruby);

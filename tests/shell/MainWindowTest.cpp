@@ -75,7 +75,7 @@ TEST(OpenRomTest, AnUnknownGameHidesTheMainWindowAndAsksForItsTables) {
   }
   EXPECT_FALSE(FindGameProfile({"BPEJ", 0})->Opens());  // known to the starter editor and Wingfall only
   FixtureRom ruby = EventFixtureRom("AXVE");
-  FixtureRom emerald = FixtureRom::Emerald(), tooShort = FixtureRom::TooShort();
+  FixtureRom emerald = FixtureRom::JapaneseEmerald(), tooShort = FixtureRom::TooShort();
   FixtureRom ruby13 = test::FixtureRom("AXVE", FixtureRom::kSize, 3), noRevision("AXVE", 0xBC);
   const struct {
     std::string path;
@@ -159,10 +159,10 @@ TEST(NameEditorMenuTest, EachGameRenamesInItsOwnTablesAndItsListsShowTheNames) {
   test::MainSession s(FixtureRom::Sapphire());  // cancelled in the Open dialog: no ROM open, no list
   s.Open("");
   EXPECT_THAT(RequireForm5Loaded(s.session), IsEmpty());
-  test::MainSession emerald(FixtureRom::Emerald());  // a game with no item offset: an empty list, and no message
+  test::MainSession emerald(FixtureRom::JapaneseEmerald());  // a game with no tables known: an empty list, and why
   emerald.Show(WindowName::Form5);
   EXPECT_THAT(emerald.session.form5.Combo2.rows, IsEmpty());
-  EXPECT_THAT(emerald.dialogs.MessageTexts(), ElementsAre("Unsupported ROM"));
+  EXPECT_THAT(emerald.dialogs.MessageTexts(), ElementsAre("Unsupported ROM", HasSubstr("are not known")));
 }
 
 // On a fixture of 0xFF with no names, through the menu: names cut or filled, answers cancelled,

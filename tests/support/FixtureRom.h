@@ -99,7 +99,7 @@ class FixtureRom {
   static FixtureRom Ruby() { return FixtureRom("AXVE"); }
   static FixtureRom Sapphire() { return FixtureRom("AXPE"); }
   static FixtureRom FireRed() { return FixtureRom("BPRE"); }
-  static FixtureRom Emerald() { return FixtureRom("BPEJ"); }
+  static FixtureRom JapaneseEmerald() { return FixtureRom("BPEJ"); }
   static FixtureRom TooShort() { return FixtureRom("", 0xAE); }  // it ends before the header's game code is whole
 
   FixtureRom& PutBytes(std::size_t offset, const Bytes& bytes) {

@@ -43,7 +43,7 @@ bool ShootMainWindow(const QDir& dir) {
   sapphire.PutBytes(0xA00200, {0x6A, 0x5A, 0x2B, 0x34, 0x08, 0x0F, 0x00, 0x50, 0x20, 0x08, 0x09, 0x02, 0xB6, 0x96,
                                0x01, 0x46, 0x00, 0x00, 0x30, 0xA1, 0x96, 0x01, 0x16, 0x0D, 0x80, 0x01, 0x00, 0x02});
   test::FixtureRom emeraldUs = test::EventFixtureRom("BPEE");
-  test::FixtureRom emerald = test::FixtureRom::Emerald();  // Japanese: a game that Open ROM does not take
+  test::FixtureRom emerald = test::FixtureRom::JapaneseEmerald();  // Japanese: a game that Open ROM does not take
 
   {
     test::ScriptedDialogs dialogs;
