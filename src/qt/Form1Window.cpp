@@ -256,6 +256,7 @@ void Form1Window::BuildWidgets() {
   window->addSpacing(8);
   window->addLayout(lister);
   window->addWidget(Text4_, 1);
+  window->setSizeConstraint(QLayout::SetFixedSize);  // the window keeps the size of what it holds
 
   // Keyboard order: top to bottom, left to right, as the rows read.
   QWidget* const order[] = {Image3_,  Image4_,  Image5_,    Combo3_,        Combo4_,   Combo5_, Command10_,
@@ -323,6 +324,7 @@ void Form1Window::Connect() {
     connect(widget, &QLineEdit::textEdited, this, [box = box](const QString& t) { box->text = t.toStdString(); });
   }
   connect(Check1_, &QCheckBox::toggled, this, [&f](bool checked) { f.Check1.checked = checked; });
+  WireEnter(this);  // Enter in a field moves on; only the buttons load, save and list
 }
 
 void Form1Window::Refresh() {

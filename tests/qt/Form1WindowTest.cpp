@@ -199,6 +199,8 @@ TEST_F(Form1WindowTest, AnUnknownGameShowsTheUnsupportedRomDialogInsteadOfTheMai
   ASSERT_NE(form9, nullptr);
   EXPECT_EQ(std::pair(window->isVisible(), form9->isVisible()), std::pair(false, true));
   Type(form9->findChild<QLineEdit*>("Text1"), "&H245EE0");
+  QTest::keyClick(form9->findChild<QLineEdit*>("Text1"), Qt::Key_Return);  // moves on to the next offset
+  EXPECT_EQ(form9->focusWidget(), form9->findChild<QLineEdit*>("Text2"));
   QTest::mouseClick(form9->findChild<QPushButton*>("Command1"), Qt::LeftButton);
   QTest::qWait(0);  // the closed dialog is dropped
   EXPECT_EQ(std::pair(window->isVisible(), shell.Window(WindowName::Form9)), std::pair(true, (QWidget*)nullptr));
