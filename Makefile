@@ -1,6 +1,7 @@
 # The two commands of the README, the Windows build of the core, and the benchmarks. Each
 # one first installs what is missing (scripts/install-deps does nothing when all is there),
-# then configures and builds with CMake and Ninja in a build folder of its own.
+# then configures and builds with CMake and Ninja in a build folder of its own. The package
+# and its check install only what they need (scripts/install-deps package).
 
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 CMAKE_CONFIGURE = cmake -S . -G Ninja -Wno-dev
@@ -28,7 +29,8 @@ test: deps
 PACKAGE_BUILD = build/package
 export DEB_BUILD_MAINT_OPTIONS = hardening=+all
 
-package: deps
+package:
+	@scripts/install-deps package
 	@SOURCE_DATE_EPOCH=$$(git log -1 --format=%ct 2>/dev/null || date +%s) \
 	  $(CMAKE_CONFIGURE) -B $(PACKAGE_BUILD) -DCMAKE_BUILD_TYPE=Release -DTESSARINE_TESTS=OFF \
 	  -DCMAKE_CXX_FLAGS="$$(dpkg-buildflags --get CPPFLAGS) $$(dpkg-buildflags --get CXXFLAGS)" \

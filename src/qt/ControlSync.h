@@ -4,6 +4,7 @@
 // signals first, so that nothing a copy changes runs an action.
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,6 +14,7 @@
 #include <QString>
 #include <QStringList>
 #include <algorithm>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -60,16 +62,26 @@ inline void Sync(QLabel* widget, const Label& label) {
   widget->setVisible(label.visible);
 }
 
-// A window's handling of the keys its fields pass on: Enter in a text field (an offset, a
-// number) presses the default button. Enter anywhere else (a list, a check box, a list that
-// takes typed text) presses nothing: a key pressed by habit there writes nothing. True when
-// the key was taken.
-inline bool EnterPresses(QKeyEvent* event, QAbstractButton* defaultButton) {
-  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return false;
-  const auto* field = qobject_cast<QLineEdit*>(defaultButton->window()->focusWidget());
-  if (field == nullptr || qobject_cast<QComboBox*>(field->parentWidget()) != nullptr) return false;
-  defaultButton->click();
-  return true;
+// Enter in the text fields of `window`. In the offset fields that its writing button reads (a
+// builder's script and text offsets, the braille inserter's script offset) Enter presses that
+// button, as a click does; the button checks the offsets and asks before it writes over data.
+// In every other text field Enter moves the focus on, as Tab does, and runs nothing: Enter
+// pressed by habit after a number loads, saves and inserts nothing. The text of a list that
+// takes typing is left to the list (its Enter picks the row typed, or nothing), and a list, a
+// check box and a button keep their own Enter: a list's presses nothing, a button's presses it.
+inline void WireEnter(QWidget* window, QAbstractButton* writer = nullptr,
+                      std::initializer_list<QLineEdit*> offsets = {}) {
+  for (QLineEdit* field : window->findChildren<QLineEdit*>()) {
+    if (qobject_cast<QComboBox*>(field->parentWidget()) != nullptr) continue;
+    if (writer != nullptr && std::find(offsets.begin(), offsets.end(), field) != offsets.end()) {
+      QObject::connect(field, &QLineEdit::returnPressed, writer, &QAbstractButton::click);
+    } else {
+      QObject::connect(field, &QLineEdit::returnPressed, field, [field] {
+        QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+        QCoreApplication::sendEvent(field, &tab);
+      });
+    }
+  }
 }
 
 // The longest text of a number field: "&H" and as many hexadecimal digits as a ROM offset

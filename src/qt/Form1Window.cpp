@@ -256,6 +256,7 @@ void Form1Window::BuildWidgets() {
   window->addSpacing(8);
   window->addLayout(lister);
   window->addWidget(Text4_, 1);
+  window->setSizeConstraint(QLayout::SetFixedSize);  // the window keeps the size of what it holds
 
   // Keyboard order: top to bottom, left to right, as the rows read.
   QWidget* const order[] = {Image3_,  Image4_,  Image5_,    Combo3_,        Combo4_,   Combo5_, Command10_,
@@ -323,6 +324,7 @@ void Form1Window::Connect() {
     connect(widget, &QLineEdit::textEdited, this, [box = box](const QString& t) { box->text = t.toStdString(); });
   }
   connect(Check1_, &QCheckBox::toggled, this, [&f](bool checked) { f.Check1.checked = checked; });
+  WireEnter(this);  // Enter in a field moves on; only the buttons load, save and list
 }
 
 void Form1Window::Refresh() {
@@ -428,8 +430,17 @@ bool Form1Window::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
-// Every drop is taken, so that what cannot be opened is refused with a sentence.
-void Form1Window::dragEnterEvent(QDragEnterEvent* event) { event->acceptProposedAction(); }
+// Every drag is taken as a copy, so that what cannot be opened reaches the drop and is refused
+// with a sentence, and the program it comes from never deletes what it gave.
+void Form1Window::dragEnterEvent(QDragEnterEvent* event) {
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+}
+
+void Form1Window::dragMoveEvent(QDragMoveEvent* event) {
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+}
 
 void Form1Window::dropEvent(QDropEvent* event) {
   Dropped dropped;
@@ -442,7 +453,13 @@ void Form1Window::dropEvent(QDropEvent* event) {
     }
   }
   if (data->urls().isEmpty() && !data->text().isEmpty()) dropped.others.push_back(data->text().toStdString());
-  event->acceptProposedAction();
+  if (TakesDrop(dropped)) {
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+  } else {
+    event->setDropAction(Qt::IgnoreAction);  // refused: the source keeps what was dragged
+    event->ignore();
+  }
   // The program that the drop came from waits until the drop ends: the open, and whatever
   // it asks, runs after that.
   QMetaObject::invokeMethod(

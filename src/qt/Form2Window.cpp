@@ -67,10 +67,6 @@ Form2Window::Form2Window(QtShell& shell, Form2& form)
   Refresh();
 }
 
-void Form2Window::keyPressEvent(QKeyEvent* event) {
-  if (!EnterPresses(event, Command1_)) QWidget::keyPressEvent(event);
-}
-
 void Form2Window::Refresh() {
   const QSignalBlocker b1(Combo1_), b2(Combo2_), b3(Combo3_);
   setWindowTitle(ToQString(form_.title));

@@ -14,7 +14,8 @@ class QtShell;
 struct Form2;
 
 // "Tessarine Starter Editor": the three starters in three species lists, with Save,
-// Reload and Done.
+// Reload and Done. It has no text field: Enter in a list presses nothing, so that only a press
+// of Save writes; Enter on a button presses that button.
 class Form2Window : public QWidget {
   Q_OBJECT
 
@@ -22,10 +23,6 @@ class Form2Window : public QWidget {
   Form2Window(QtShell& shell, Form2& form);
   // Copies the record into the widgets, with their signals blocked.
   void Refresh();
-
- protected:
-  // Enter in a closed list presses "Save", the default button.
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   QtShell& shell_;

@@ -86,6 +86,7 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
   connect(Command1_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { InsertGivePokemon(form_, shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
   CloseOnEscape(this);
+  WireEnter(this, Command1_, {Text3_, Text12_});
   connect(Check1_, &QCheckBox::clicked, this, [this](bool on) { form_.Check1.checked = on; });
   connect(Command2_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { PressFindScriptSpace(form_, shell_.rom(), shell_.dialogs()); }); });
@@ -116,10 +117,6 @@ void Form5Window::Refresh() {
   Sync(Check1_, form_.Check1);
   Sync(Command2_, form_.Command2);
   Sync(Command3_, form_.Command3);
-}
-
-void Form5Window::keyPressEvent(QKeyEvent* event) {
-  if (!EnterPresses(event, Command1_)) QWidget::keyPressEvent(event);
 }
 
 void Form5Window::closeEvent(QCloseEvent* event) {

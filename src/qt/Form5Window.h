@@ -27,8 +27,6 @@ class Form5Window : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
-  // Enter in any field or list presses Insert, the window's default button.
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   QtShell& shell_;

@@ -257,13 +257,9 @@ void Form6Window::Connect() {
 
   CloseOnEscape(this);
 
-  // Enter: the offset of the record loads it, the script offset inserts (after the question),
-  // and the layout fields apply.
-  connect(Text2_, &QLineEdit::returnPressed, Command2_, &QPushButton::click);
-  connect(Text3_, &QLineEdit::returnPressed, Command1_, &QPushButton::click);
-  for (QLineEdit* field : {postionleft_, postiontop_, msgboxleft_, msgboxtop_, brailleleft_, brailletop_}) {
-    connect(field, &QLineEdit::returnPressed, Command3_, &QPushButton::click);
-  }
+  // Enter in the script offset inserts (after the question); in the braille offset and the
+  // layout fields it moves on, so that it neither loads over the text typed nor applies.
+  WireEnter(this, Command1_, {Text3_});
 }
 
 void Form6Window::Refresh() {

@@ -222,11 +222,10 @@ void Form8Window::Connect() {
   connect(savebutton_, &QPushButton::clicked, this, [this] {
     shell_.Run([this] { PressSavebutton(form_, shell_.rom(), shell_.form1(), shell_.dialogs()); });
   });
-  // The landing tile is typed freely; Enter saves it.
+  // The landing tile is typed freely; only Save writes it (Enter in a field moves on).
   connect(XXt_, &QLineEdit::textEdited, this, [this](const QString& t) { form_.XXt.text = t.toStdString(); });
   connect(YYt_, &QLineEdit::textEdited, this, [this](const QString& t) { form_.YYt.text = t.toStdString(); });
-  connect(XXt_, &QLineEdit::returnPressed, savebutton_, &QPushButton::click);
-  connect(YYt_, &QLineEdit::returnPressed, savebutton_, &QPushButton::click);
+  WireEnter(this);
 
   const std::pair<QLineEdit*, MapSizeField> sizes[] = {{Text1_, MapSizeField::Text1}, {Text2_, MapSizeField::Text2}};
   for (const auto& [widget, field] : sizes) {

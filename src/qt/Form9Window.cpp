@@ -53,8 +53,7 @@ Form9Window::Form9Window(QtShell& shell, Form9& form)
 
   connect(Text1_, &QLineEdit::textEdited, this, [this](const QString& t) { form_.Text1.text = t.toStdString(); });
   connect(Text2_, &QLineEdit::textEdited, this, [this](const QString& t) { form_.Text2.text = t.toStdString(); });
-  connect(Text1_, &QLineEdit::returnPressed, Command1_, &QPushButton::click);
-  connect(Text2_, &QLineEdit::returnPressed, Command1_, &QPushButton::click);
+  WireEnter(this);  // Enter moves on to the next offset, then to Continue
   connect(Command1_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { PressContinue(form_, shell_.form1(), shell_.dialogs()); }); });
   connect(Command2_, &QPushButton::clicked, this,

@@ -81,14 +81,9 @@ WildBattleWindow::WildBattleWindow(QtShell& shell, WildBattleForm& form, const c
   }
 }
 
-void WildBattleWindow::keyPressEvent(QKeyEvent* event) {
-  QWidget* focus = focusWidget();
-  if (focus != nullptr && (focus == Combo1_ || Combo1_->isAncestorOf(focus))) return QWidget::keyPressEvent(event);
-  if (!EnterPresses(event, Command1_)) QWidget::keyPressEvent(event);
-}
-
-void WildBattleWindow::FinishLayout() {
+void WildBattleWindow::FinishLayout(std::initializer_list<QLineEdit*> offsets) {
   CloseOnEscape(this);
+  WireEnter(this, Command1_, offsets);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(Check1_);
   buttons->addStretch();
@@ -127,7 +122,7 @@ Form3Window::Form3Window(QtShell& shell, Form3& form) : WildBattleWindow(shell, 
           [this] { shell_.Run([this] { InsertWildBattle(form3_, shell_.form1(), shell_.rom(), shell_.dialogs()); }); });
   connect(Command4_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { PressFindScriptSpace(form3_, shell_.rom(), shell_.dialogs()); }); });
-  FinishLayout();
+  FinishLayout({Text3_});
   Refresh();
 }
 
@@ -155,7 +150,7 @@ Form4Window::Form4Window(QtShell& shell, Form4& form)
           [this] { shell_.Run([this] { PressFindScriptSpace(form4_, shell_.rom(), shell_.dialogs()); }); });
   connect(Command5_, &QPushButton::clicked, this,
           [this] { shell_.Run([this] { PressFindTextSpace(form4_, shell_.rom(), shell_.dialogs()); }); });
-  FinishLayout();
+  FinishLayout({Text3_, Text12_});
   setTabOrder(Command4_, Text12_);
   setTabOrder(Text12_, Command5_);
   setTabOrder(Command5_, Check1_);

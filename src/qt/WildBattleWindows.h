@@ -7,7 +7,6 @@
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
-class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -32,11 +31,10 @@ class WildBattleWindow : public QWidget {
  protected:
   WildBattleWindow(QtShell& shell, WildBattleForm& form, const char* name);
   // Puts the Insert button and the check box below every row, once the form has added its
-  // own, and the new buttons last in the tab order.
-  void FinishLayout();
-  // Enter in any field or list presses Insert, the window's default button; Enter in the
-  // species box, which takes typing, picks the row typed (PickTypedSpecies).
-  void keyPressEvent(QKeyEvent* event) override;
+  // own, and the new buttons last in the tab order. Enter in one of the `offsets` presses
+  // Insert; in the other fields it moves on (WireEnter), and in the species box, which takes
+  // typing, it picks the row typed (PickTypedSpecies).
+  void FinishLayout(std::initializer_list<QLineEdit*> offsets);
   virtual void RefreshOwn() = 0;
 
   QtShell& shell_;

@@ -177,6 +177,8 @@ void OpenRomAt(Form1& form, RomImage& rom, Dialogs& dialogs, const std::string& 
   OpenRomFile(form, rom, dialogs, path);
 }
 
+bool TakesDrop(const Dropped& dropped) { return RefusalOf(dropped).empty(); }
+
 void OpenDropped(Form1& form, RomImage& rom, Dialogs& dialogs, const Dropped& dropped) {
   if (const std::string refusal = RefusalOf(dropped); !refusal.empty()) {
     throw Failure(refusal + " Drop one .gba file on the window to open it; nothing was opened.");

@@ -26,6 +26,11 @@ struct Dropped {
   std::vector<std::string> others;
 };
 
+// Whether OpenDropped opens what was dropped (one .gba file) rather than refusing it. The window
+// answers the program that the drop came from with this while the drop lasts (a copy, or a
+// refusal, so that the source deletes nothing it gave); the open itself runs after the drop.
+bool TakesDrop(const Dropped& dropped);
+
 // A drop on the main window. One .gba file opens by OpenRomAt, as if the Open dialog had
 // given it. Anything else (several things, a folder, a file of another name, no file) throws a
 // Failure that names what was dropped, before the ROM that is open is touched.

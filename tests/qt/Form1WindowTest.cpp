@@ -175,10 +175,14 @@ TEST_F(Form1WindowTest, AGbaFileDroppedOnTheWindowOpensAndAnythingElseIsRefusedB
     if (!row.text.isEmpty()) data.setText(row.text);  // as file managers give it too, which a field would take
     // Files over a field, which leaves them to the window; text on the window, since a field takes text.
     QWidget* target = row.urls.isEmpty() ? window : Find("spritetxt");
-    QDragEnterEvent enter(QPoint(4, 4), Qt::CopyAction, &data, Qt::LeftButton, {});
+    // A source that offers a move (Shift held): the window copies, and a refused drop is ignored,
+    // so that the source deletes nothing it gave.
+    QDragEnterEvent enter(QPoint(4, 4), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::ShiftModifier);
     QCoreApplication::sendEvent(target, &enter);
-    QDropEvent drop(QPointF(4, 4), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QDropEvent drop(QPointF(4, 4), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::ShiftModifier);
     QCoreApplication::sendEvent(target, &drop);
+    EXPECT_EQ(std::tuple(enter.isAccepted(), enter.dropAction(), drop.isAccepted(), drop.dropAction()),
+              std::tuple(true, Qt::CopyAction, row.refusal.empty(), row.refusal.empty() ? Qt::CopyAction : Qt::IgnoreAction));
     QTest::qWait(0);
     const std::string told = row.refusal + " Drop one .gba file on the window to open it; nothing was opened.";
     EXPECT_EQ(dialogs.MessageTexts(), row.refusal.empty() ? std::vector<std::string>{} : std::vector{told});
@@ -195,6 +199,8 @@ TEST_F(Form1WindowTest, AnUnknownGameShowsTheUnsupportedRomDialogInsteadOfTheMai
   ASSERT_NE(form9, nullptr);
   EXPECT_EQ(std::pair(window->isVisible(), form9->isVisible()), std::pair(false, true));
   Type(form9->findChild<QLineEdit*>("Text1"), "&H245EE0");
+  QTest::keyClick(form9->findChild<QLineEdit*>("Text1"), Qt::Key_Return);  // moves on to the next offset
+  EXPECT_EQ(form9->focusWidget(), form9->findChild<QLineEdit*>("Text2"));
   QTest::mouseClick(form9->findChild<QPushButton*>("Command1"), Qt::LeftButton);
   QTest::qWait(0);  // the closed dialog is dropped
   EXPECT_EQ(std::pair(window->isVisible(), shell.Window(WindowName::Form9)), std::pair(true, (QWidget*)nullptr));

@@ -139,10 +139,12 @@ void ExpectWhole(QWidget* window, const char* field, int digits) {
   }
 }
 
-// In a large desktop font, each window's number fields show their longest texts whole. Each tool
+// In a large desktop font, each window's number fields show their longest texts whole, and each
+// window keeps the size of what it holds (none can be resized). Each tool
 // opens with its first field in focus, Tab walks its fields as they are read (Find Free Space
-// after its field, the box before Insert), and Esc closes it; none of this writes.
-TEST(ToolKeysTest, FieldsFitInALargeFontTabWalksThemInOrderAndEscClosesWithoutWriting) {
+// after its field, the box before Insert), Enter in a field that is no offset moves on as Tab
+// does (it loads, saves and inserts nothing), and Esc closes it; none of this writes.
+TEST(ToolKeysTest, FieldsFitInALargeFontTabAndEnterWalkThemInOrderAndEscClosesWithoutWriting) {
   const QFont font = QApplication::font();
   QApplication::setFont(QFont(font.family(), 20));
   test::FixtureRom fixture = BuilderRom();
@@ -156,23 +158,30 @@ TEST(ToolKeysTest, FieldsFitInALargeFontTabWalksThemInOrderAndEscClosesWithoutWr
                                       {"Text3", offset}}) {
     ExpectWhole(shell.Window(WindowName::Form1), field, digits);
   }
+  QWidget* main = shell.Window(WindowName::Form1);
+  EXPECT_EQ(main->minimumSize(), main->maximumSize());
   const struct {
     MenuEntry entry;
     WindowName name;
     std::vector<std::string> tabs;  // from the first field on
     std::vector<std::pair<const char*, int>> numbers;
+    std::vector<std::pair<const char*, const char*>> enters;  // a field, and where Enter there moves on to
   } rows[] = {
       {MenuEntry::mnuwbs, WindowName::Form4,
        {"Combo1", "pkmntxt", "crytxt", "Combo3", "Combo2", "Text3", "Command4", "Text12", "Command5", "Check1", "Command1"},
-       {{"pkmntxt", word}, {"crytxt", word}, {"Text3", offset}, {"Text12", offset}}},
+       {{"pkmntxt", word}, {"crytxt", word}, {"Text3", offset}, {"Text12", offset}},
+       {{"pkmntxt", "crytxt"}, {"crytxt", "Combo3"}}},
       {MenuEntry::mnugps, WindowName::Form5,
        {"Combo1", "pkmntxt", "Combo3", "Combo2", "Text3", "Command2", "Text12", "Command3", "Check1", "Command1"},
-       {{"pkmntxt", word}, {"Text3", offset}, {"Text12", offset}}},
+       {{"pkmntxt", word}, {"Text3", offset}, {"Text12", offset}},
+       {{"pkmntxt", "Combo3"}}},
       {MenuEntry::mnuib, WindowName::Form6, {"Text1", "Text2", "Command6", "Text3", "Command7", "postionleft"},
-       {{"Text2", offset}, {"Text3", offset}, {"postionleft", byte}, {"brailletop", byte}}},
-      {MenuEntry::mnustart, WindowName::Form2, {"Combo1", "Combo2", "Combo3", "Command1", "Command3", "Command2"}, {}},
+       {{"Text2", offset}, {"Text3", offset}, {"postionleft", byte}, {"brailletop", byte}},
+       {{"Text2", "Command6"}, {"postionleft", "postiontop"}, {"brailletop", "Command1"}}},
+      {MenuEntry::mnustart, WindowName::Form2, {"Combo1", "Combo2", "Combo3", "Command1", "Command3", "Command2"}, {}, {}},
       {MenuEntry::mnuflin, WindowName::Form8, {"hoenn", "loadbutton", "savebutton", "XXt", "YYt", "Command2"},
-       {{"XXt", byte}, {"YYt", byte}, {"Text1", word}}},
+       {{"XXt", byte}, {"YYt", byte}, {"Text1", word}},
+       {{"XXt", "YYt"}, {"YYt", "Command2"}, {"Text1", "Text2"}}},
   };
   for (const auto& row : rows) {
     dialogs.messageAnswers = {MessageAnswer::Yes};  // a message in the wild battle: Form4
@@ -187,7 +196,16 @@ TEST(ToolKeysTest, FieldsFitInALargeFontTabWalksThemInOrderAndEscClosesWithoutWr
       QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
     }
     EXPECT_EQ(walked, row.tabs);
+    EXPECT_EQ(window->minimumSize(), window->maximumSize());
     for (const auto& [field, digits] : row.numbers) ExpectWhole(window, field, digits);
+    const std::size_t told = dialogs.messages.size();
+    for (const auto& [field, next] : row.enters) {
+      Type(window->findChild<QLineEdit*>(field), "&H19");
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+      const QWidget* focus = QApplication::focusWidget();
+      EXPECT_EQ(focus != nullptr ? focus->objectName().toStdString() : "", next) << field;
+    }
+    EXPECT_EQ(dialogs.messages.size(), told);
     QTest::keyClick(window->focusWidget(), Qt::Key_Escape);
     QTest::qWait(0);
     EXPECT_EQ(shell.Window(row.name), nullptr);
