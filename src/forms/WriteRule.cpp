@@ -12,8 +12,6 @@
 namespace tessarine {
 namespace {
 
-constexpr std::int64_t kLastRomOffset = INT32_MAX;
-
 // A place or a length as hexadecimal text; a negative one, or one past a long, in decimal.
 std::string HexNumber(std::int64_t number) {
   return number >= 0 && number <= INT32_MAX ? ToHexText(static_cast<std::int32_t>(number)) : std::to_string(number);

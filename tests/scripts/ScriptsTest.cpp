@@ -361,6 +361,8 @@ TEST(FreeSpaceTest, FindsTheFirstAlignedRunWithOneFFBehind) {
       {{{0x00, 0x200}}, 0x101, 0, 0x104},                  // length 0 takes one FF
       {{}, 0, 0, std::nullopt},
       {{{0x1000A0, 0x40}}, 0xC0, 0x30, 0x1000A0, 0x300000},  // across the first block's end
+      {{{0xC0, 0x140}}, INT64_MAX, 1, std::nullopt},       // a start or a length past the last offset a ROM can
+      {{{0xC0, 0x140}}, 0, INT64_MAX, std::nullopt},       // have finds nothing
   };
   for (const auto& row : rows) {
     test::FixtureRom fixture("AXPE", row.size);
