@@ -43,6 +43,8 @@ std::string JoinNames(const std::vector<std::string>& names) {
   return joined;
 }
 
+std::int64_t EndOf(const WritePiece& piece) { return piece.at + static_cast<std::int64_t>(piece.bytes.size()); }
+
 struct Run {
   std::int64_t at;
   std::int64_t end;
@@ -54,7 +56,7 @@ struct Run {
 std::vector<Run> MergedRuns(std::span<const WritePiece> pieces) {
   std::vector<Run> runs;
   for (const WritePiece& piece : pieces) {
-    const std::int64_t end = piece.at + static_cast<std::int64_t>(piece.bytes.size());
+    const std::int64_t end = EndOf(piece);
     if (!runs.empty() && piece.at <= runs.back().end && end >= runs.back().at) {
       runs.back().at = std::min(runs.back().at, piece.at);
       runs.back().end = std::max(runs.back().end, end);
@@ -126,19 +128,35 @@ bool RomWrite::ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>
   std::ranges::sort(places, {}, &WritePiece::at);
   std::vector<std::string> taken;
   std::size_t notFree = 0;
+  std::vector<std::size_t> ours(written_);  // of each piece written, its bytes among those not FF
   for (const Run& run : MergedRuns(places)) {
     const Bytes there = rom_.ReadBytes(static_cast<RomOffset>(run.at), static_cast<std::size_t>(run.end - run.at));
-    const auto count = static_cast<std::size_t>(std::ranges::count_if(there, [](std::uint8_t b) { return b != 0xFF; }));
+    std::size_t count = 0;
+    for (std::int64_t at = run.at; at < run.at + std::ssize(there); ++at) {
+      if (there[static_cast<std::size_t>(at - run.at)] == 0xFF) continue;
+      ++count;
+      // The byte is that of the last piece written over it, if any.
+      for (std::size_t k = written_; k-- > 0;) {
+        if (pieces_[k].at <= at && at < EndOf(pieces_[k])) {
+          ++ours[k];
+          break;
+        }
+      }
+    }
     if (count == 0) continue;
     notFree += count;
     taken.push_back("the " + Size(static_cast<std::size_t>(run.end - run.at)) + " at " + HexNumber(run.at));
   }
   if (notFree > 0) {
+    std::vector<std::string> written;
+    for (std::size_t k = 0; k < written_; ++k) {
+      if (ours[k] > 0) written.push_back(Size(ours[k]) + " of " + pieces_[k].name);
+    }
     const bool one = taken.size() == 1 && taken[0].starts_with("the 1 byte ");
     const std::string question = Capitalized(JoinNames(taken)) + (one ? " is" : " are") + " not free space: " +
-                                 std::to_string(notFree) +
-                                 (notFree == 1 ? " of them is not FF." : " of them are not FF.") +
-                                 " Write over them?";
+                                 std::to_string(notFree) + (notFree == 1 ? " of them is not FF" : " of them are not FF") +
+                                 (written.empty() ? "" : ", among them " + JoinNames(written) + " written just now") +
+                                 ". Write over them?";
     if (dialogs.Message(question, MessageButtons::YesNo, "Not free space") != MessageAnswer::Yes) {
       if (written_ == 0) return false;
       throw Stopped(Failure("You chose not to write over the bytes that are not free space."), alsoNotWritten);
@@ -191,10 +209,9 @@ void RomWrite::Check(const std::vector<std::string>& alsoNotWritten) const {
   std::vector<const WritePiece*> all;
   for (const WritePiece& piece : pieces_) all.push_back(&piece);
   for (const WritePiece& piece : expected_) all.push_back(&piece);
-  const auto end = [](const WritePiece* piece) { return piece->at + static_cast<std::int64_t>(piece->bytes.size()); };
   for (std::size_t i = 0; i < all.size(); ++i) {
     for (std::size_t j = i + 1; j < all.size(); ++j) {
-      if (all[i]->at < end(all[j]) && all[j]->at < end(all[i])) {
+      if (all[i]->at < EndOf(*all[j]) && all[j]->at < EndOf(*all[i])) {
         throw refuse(PieceAt(*all[i]) + ", and " + PieceAt(*all[j]) +
                      ", would share bytes: in the game a script that writes over its own pieces cannot run. Type "
                      "offsets that keep them apart.");

@@ -90,10 +90,12 @@ class RomWrite {
   // The free-space question, for a tool that writes new data into free space (0xFF bytes):
   // reads the places of the pieces added since the last question, and when any byte there is
   // not 0xFF asks once, Yes or No with No the default, where and how many ("The 18 bytes at
-  // &H700000 are not free space: 12 of them are not FF. Write over them?"). True on Yes, or
-  // when all is free. On No: false while nothing is written, so that the action stops with
-  // nothing written; after a write, the Failure that names what was written. Asked after
-  // Check, which makes sure that the places lie inside the file.
+  // &H700000 are not free space: 12 of them are not FF. Write over them?"), and how many of
+  // them the pieces this action wrote before hold ("..., among them 2 bytes of the script
+  // written just now. ..."). True on Yes, or when all is free. On No: false while nothing is
+  // written, so that the action stops with nothing written; after a write, the Failure that
+  // names what was written. Asked after Check, which makes sure that the places lie inside
+  // the file.
   bool ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>& alsoNotWritten = {});
 
   // Check, the free-space question, Write; false when the answer No left all unwritten.
