@@ -79,6 +79,13 @@ std::vector<std::string> Runs(std::span<const WritePiece> pieces) {
   return texts;
 }
 
+// The first or the last `count` bytes of a piece: "the first 74 of the 76 bytes at &H700000
+// (the body)", "the last byte of the 2 bytes at &H169BB5 (Ball 1)".
+std::string PartOf(const WritePiece& piece, std::size_t count, bool first) {
+  return std::string(first ? "the first " : "the last ") + (count == 1 ? "byte" : std::to_string(count)) + " of the " +
+         Size(piece.bytes.size()) + " at " + HexNumber(piece.at) + " (" + piece.name + ")";
+}
+
 // Where a piece is, for a sentence: its field and text when a field placed it.
 std::string PieceAt(const WritePiece& piece) {
   const std::string what = piece.name + ", " + Size(piece.bytes.size()) + " from " + HexNumber(piece.at);
@@ -167,17 +174,23 @@ bool RomWrite::ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>
 }
 
 void RomWrite::CheckFile(const std::vector<std::string>& alsoNotWritten) const {
-  const auto refuse = [&](const std::string& why) { return Stopped(Failure(why), alsoNotWritten); };
+  // What was written went into the file as it was opened: a file put at its path since holds
+  // none of it, and another program that wrote into it may have written over it.
+  const auto refuse = [&](const std::string& why, std::string_view nowAtPath = {}) {
+    return Account(Failure(why), alsoNotWritten, nowAtPath);
+  };
   if (!rom_.IsOpen()) throw refuse("No ROM is open. Open a ROM first.");
   if (!rom_.StillAtItsPath()) {
     throw refuse("\"" + rom_.romPath() + "\" is no longer the file that was opened: another program replaced, " +
-                 "moved or removed it since. Open the ROM again to work on the file that is there now.");
+                     "moved or removed it since. Open the ROM again to work on the file that is there now.",
+                 "holds none of them");
   }
   const GameIdentity now = ReadGameIdentity(rom_);
   if (now != IdentityOf(main_)) {
     throw refuse("The header of \"" + rom_.romPath() + "\" no longer names the game that was opened (" +
-                 ShownIdentity(IdentityOf(main_)) + "): it now reads \"" + ShownIdentity(now) +
-                 "\". Another program changed the file since. Open the ROM again.");
+                     ShownIdentity(IdentityOf(main_)) + "): it now reads \"" + ShownIdentity(now) +
+                     "\". Another program changed the file since. Open the ROM again.",
+                 "may not hold them: the other program may have written over them");
   }
 }
 
@@ -229,23 +242,46 @@ void RomWrite::Write(const std::vector<std::string>& alsoNotWritten) {
     try {
       rom_.WriteBytes(static_cast<RomOffset>(piece.at), piece.bytes);
     } catch (const Failure& failure) {
+      // The system may refuse a write part way, after its first bytes.
+      reached_ = rom_.LastWriteReached();
+      if (reached_ == piece.bytes.size()) {  // all of them, and only the flush behind them failed
+        ++written_;
+        reached_ = 0;
+      }
       throw Stopped(failure, alsoNotWritten);
     }
   }
 }
 
 std::string RomWrite::WrittenText() const {
-  return JoinNames(Runs(std::span<const WritePiece>(pieces_).first(written_)));
+  std::vector<std::string> written = Runs(std::span<const WritePiece>(pieces_).first(written_));
+  if (reached_ > 0) written.push_back(PartOf(pieces_[written_], reached_, true));
+  return JoinNames(written);
 }
 
 Failure RomWrite::Stopped(const Failure& failure, const std::vector<std::string>& alsoNotWritten) const {
-  if (written_ == 0) return failure.Then("Nothing was written.");
-  std::vector<std::string> notWritten = Runs(std::span<const WritePiece>(pieces_).subspan(written_));
+  return Account(failure, alsoNotWritten, {});
+}
+
+Failure RomWrite::Account(const Failure& failure, const std::vector<std::string>& alsoNotWritten,
+                          std::string_view nowAtPath) const {
+  if (!HasWritten()) return failure.Then("Nothing was written.");
+  std::vector<std::string> notWritten;
+  std::size_t next = written_;
+  if (reached_ > 0) {
+    notWritten.push_back(PartOf(pieces_[next], pieces_[next].bytes.size() - reached_, false));
+    ++next;
+  }
+  const std::vector<std::string> rest = Runs(std::span<const WritePiece>(pieces_).subspan(next));
+  notWritten.insert(notWritten.end(), rest.begin(), rest.end());
   // A piece expected has no length yet.
   for (const WritePiece& piece : expected_) notWritten.push_back(piece.name + " at " + HexNumber(piece.at));
   notWritten.insert(notWritten.end(), alsoNotWritten.begin(), alsoNotWritten.end());
-  return failure.Then("Written before it stopped: " + WrittenText() + "." +
-                      (notWritten.empty() ? "" : " Not written: " + JoinNames(notWritten) + "."));
+  const std::string written = nowAtPath.empty() ? "Written before it stopped: " + WrittenText() + "."
+                                                : "Written before it stopped, into the file as it was opened: " +
+                                                      WrittenText() + "; the file now at that path " +
+                                                      std::string(nowAtPath) + ".";
+  return failure.Then(written + (notWritten.empty() ? "" : " Not written: " + JoinNames(notWritten) + "."));
 }
 
 }  // namespace tessarine

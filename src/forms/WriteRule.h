@@ -106,13 +106,14 @@ class RomWrite {
     return true;
   }
 
-  // Whether the action has written any piece yet.
-  bool HasWritten() const { return written_ > 0; }
+  // Whether the action has written any byte yet.
+  bool HasWritten() const { return written_ > 0 || reached_ > 0; }
 
   // The failure that ends the action here, followed by the account: "Nothing was written.",
-  // or what was written (runs of bytes, with the pieces they hold) and what was not: the
-  // pieces added and not yet written, those expected, and `alsoNotWritten`, which the action
-  // had still to work out.
+  // or what was written (runs of bytes, with the pieces they hold, and the first bytes of a
+  // piece whose write the system refused part way) and what was not: the rest of that piece,
+  // the pieces added and not yet written, those expected, and `alsoNotWritten`, which the
+  // action had still to work out.
   [[nodiscard]] Failure Stopped(const Failure& failure, const std::vector<std::string>& alsoNotWritten = {}) const;
 
   // What the action wrote, as "83 bytes at &H700000 (the body and the declined branch)";
@@ -122,6 +123,11 @@ class RomWrite {
  private:
   // The part of the rule that looks at the file: open, at its path, with its header.
   void CheckFile(const std::vector<std::string>& alsoNotWritten) const;
+  // Stopped, for bytes written into the file as it was opened, which another program has
+  // since replaced or written into: `nowAtPath` says what the file at the path now holds of
+  // them ("holds none of them"). Empty: they are in the file at the path.
+  [[nodiscard]] Failure Account(const Failure& failure, const std::vector<std::string>& alsoNotWritten,
+                                std::string_view nowAtPath) const;
 
   RomImage& rom_;
   const Form1& main_;
@@ -130,6 +136,7 @@ class RomWrite {
   std::vector<WritePiece> pieces_;
   std::vector<WritePiece> expected_;
   std::size_t written_ = 0;  // pieces_[0, written_) are in the file
+  std::size_t reached_ = 0;  // and the first bytes of pieces_[written_], when the system refused the rest
   std::size_t asked_ = 0;    // pieces_[0, asked_) have been through the free-space question
   bool apart_ = false;
 };

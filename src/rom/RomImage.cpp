@@ -140,6 +140,7 @@ void RomImage::Close() noexcept {
   regularFile_ = false;
   romPath_.clear();
   position_ = 0;
+  lastWriteReached_ = 0;
 }
 
 bool RomImage::StillAtItsPath() const {
@@ -221,6 +222,7 @@ std::int16_t RomImage::ReadWord() { return static_cast<std::int16_t>(ReadLittleE
 std::int32_t RomImage::ReadLong() { return static_cast<std::int32_t>(ReadLittleEndian(4)); }
 
 void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
+  lastWriteReached_ = 0;
   RequireOpen("written");
   const std::string where = " at " + HexPosition(position_) + " of \"" + romPath_ + "\"";
   if (readOnly_) {
@@ -235,6 +237,7 @@ void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
   const bool placed = SeekTo(file_, position_);
   // No bytes may come with no buffer at all, which fwrite must not be given.
   const std::size_t put = placed && !bytes.empty() ? std::fwrite(bytes.data(), 1, bytes.size(), file_) : 0;
+  lastWriteReached_ = put;  // unbuffered: what fwrite took has reached the file
   const bool flushed = std::fflush(file_) == 0;
   const int error = errno;
   std::clearerr(file_);
