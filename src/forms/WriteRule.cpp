@@ -180,6 +180,11 @@ void RomWrite::CheckFile(const std::vector<std::string>& alsoNotWritten) const {
     return Account(Failure(why), alsoNotWritten, nowAtPath);
   };
   if (!rom_.IsOpen()) throw refuse("No ROM is open. Open a ROM first.");
+  try {
+    rom_.RequireWritable();
+  } catch (const Failure& failure) {
+    throw Stopped(failure, alsoNotWritten);
+  }
   if (!rom_.StillAtItsPath()) {
     throw refuse("\"" + rom_.romPath() + "\" is no longer the file that was opened: another program replaced, " +
                      "moved or removed it since. Open the ROM again to work on the file that is there now.",

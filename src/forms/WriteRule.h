@@ -121,7 +121,7 @@ class RomWrite {
   std::string WrittenText() const;
 
  private:
-  // The part of the rule that looks at the file: open, at its path, with its header.
+  // The part of the rule that looks at the file: open, writable, at its path, with its header.
   void CheckFile(const std::vector<std::string>& alsoNotWritten) const;
   // Stopped, for bytes written into the file as it was opened, which another program has
   // since replaced or written into: `nowAtPath` says what the file at the path now holds of

@@ -180,6 +180,14 @@ void RomImage::RequireOpen(const char* what) const {
   }
 }
 
+void RomImage::RequireWritable() const {
+  RequireOpen("written");
+  if (readOnly_) {
+    throw Failure("The ROM is open read-only (the file cannot be written), so nothing can be written to \"" +
+                  romPath_ + "\".");
+  }
+}
+
 void RomImage::Seek(RomOffset offset) {
   RequireOpen("read or written");
   if (offset < 0) {
@@ -223,11 +231,8 @@ std::int32_t RomImage::ReadLong() { return static_cast<std::int32_t>(ReadLittleE
 
 void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
   lastWriteReached_ = 0;
-  RequireOpen("written");
+  RequireWritable();
   const std::string where = " at " + HexPosition(position_) + " of \"" + romPath_ + "\"";
-  if (readOnly_) {
-    throw Failure("The ROM is open read-only (the file cannot be written), so nothing was written" + where + ".");
-  }
   if (!Holds(position_, static_cast<std::int64_t>(bytes.size()))) {
     throw Failure("Nothing was written" + where + ": " + std::to_string(bytes.size()) +
                   " bytes there would run past the end of the ROM, which is " + HexPosition(Length()) +

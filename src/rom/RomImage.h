@@ -40,6 +40,10 @@ class RomImage {
   // is open.
   bool StillAtItsPath() const;
   bool IsReadOnly() const { return readOnly_; }
+  // Throws the Failure that says so when no ROM is open or it is open read-only: the one
+  // sentence by which every write of a read-only ROM is refused, for a tool to ask before
+  // its questions.
+  void RequireWritable() const;
   const std::string& romPath() const { return romPath_; }
   std::int64_t Position() const { return position_; }
 

@@ -8,6 +8,7 @@
 
 #include "events/EventWords.h"
 #include "rom/FilePath.h"
+#include "support/ReadOnlyFile.h"
 #include "support/Tests.h"
 #include "support/WriteLimit.h"
 
@@ -18,7 +19,7 @@ namespace {
 struct Desk : test::MainSession {
   FixtureRom ruby = Fixture({"AXVE", 0}), fireRed = Fixture({"BPRE", 0}), unknown{"ZZZZ"};
   const std::string path = ToPathText(test::TemporaryPath("rom.gba"));
-  bool runs = true;  // false where this system cannot make the road: a file renamed over the open one
+  bool runs = true;  // false where this system cannot make the road: a file renamed over the open one, or read-only
 
   // A game's events and names, with item names and a fly record of its own.
   static FixtureRom Fixture(const GameIdentity& game) {
@@ -202,6 +203,17 @@ const Road kRoads[] = {
      [](Desk& d) { InsertWildBattle(d.session.form4, d.form, d.rom, d.dialogs); }, {},
      "Written before it stopped, into the file as it was opened: 20 bytes at &H700000 (the script); the file now at "
      "that path holds none of them. Not written: 2 bytes at &H7A0000 (the message)."},
+    {"a read-only ROM is refused before any question",
+     [](Desk& d) {
+       const test::ReadOnlyFile readOnly(d.path);
+       d.runs = readOnly.works();
+       d.MainSession::Open(d.path);
+     },
+     [](Desk& d) {
+       d.Menu(MenuEntry::mnuedipmon);
+       EXPECT_TRUE(d.dialogs.inputs.empty());
+     },
+     {}, "open read-only"},
     {"a file overwritten in place by another game takes no name",
      [](Desk& d) {
        d.Open(d.ruby);
