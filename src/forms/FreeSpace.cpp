@@ -42,19 +42,25 @@ Scanned Scan(std::span<const std::uint8_t> block, std::int64_t base, std::int64_
 }
 
 std::optional<RomOffset> AsOffset(const Scanned& scanned) {
-  if (!scanned.found || scanned.at > INT32_MAX) return std::nullopt;
+  if (!scanned.found || scanned.at > kLastRomOffset) return std::nullopt;
   return static_cast<RomOffset>(scanned.at);
 }
+
+// No ROM holds a place from beyond its last offset, nor one longer than that: the search
+// ends before any sum with such a number.
+bool BeyondAnyRom(std::int64_t from, std::int64_t length) { return from > kLastRomOffset || length > kLastRomOffset; }
 
 }  // namespace
 
 std::optional<RomOffset> FindFreeSpace(std::span<const std::uint8_t> rom, std::int64_t from, std::int64_t length) {
+  if (BeyondAnyRom(from, length)) return std::nullopt;
   return AsOffset(Scan(rom, 0, FirstPlace(from), std::max<std::int64_t>(length, 0) + 1));
 }
 
 std::optional<RomOffset> FindFreeSpace(RomImage& rom, std::int64_t from, std::int64_t length) {
+  if (BeyondAnyRom(from, length)) return std::nullopt;
   const std::int64_t need = std::max<std::int64_t>(length, 0) + 1;
-  const std::int64_t size = std::min<std::int64_t>(rom.Length(), std::int64_t{INT32_MAX} + 1);
+  const std::int64_t size = std::min(rom.Length(), kLastRomOffset + 1);
   std::int64_t at = FirstPlace(from);
   while (at + need <= size) {
     // Each block starts at the next place to try and holds at least one whole place.

@@ -12,8 +12,6 @@
 namespace tessarine {
 namespace {
 
-constexpr std::int64_t kLastRomOffset = INT32_MAX;
-
 // A place or a length as hexadecimal text; a negative one, or one past a long, in decimal.
 std::string HexNumber(std::int64_t number) {
   return number >= 0 && number <= INT32_MAX ? ToHexText(static_cast<std::int32_t>(number)) : std::to_string(number);
@@ -45,6 +43,8 @@ std::string JoinNames(const std::vector<std::string>& names) {
   return joined;
 }
 
+std::int64_t EndOf(const WritePiece& piece) { return piece.at + static_cast<std::int64_t>(piece.bytes.size()); }
+
 struct Run {
   std::int64_t at;
   std::int64_t end;
@@ -56,7 +56,7 @@ struct Run {
 std::vector<Run> MergedRuns(std::span<const WritePiece> pieces) {
   std::vector<Run> runs;
   for (const WritePiece& piece : pieces) {
-    const std::int64_t end = piece.at + static_cast<std::int64_t>(piece.bytes.size());
+    const std::int64_t end = EndOf(piece);
     if (!runs.empty() && piece.at <= runs.back().end && end >= runs.back().at) {
       runs.back().at = std::min(runs.back().at, piece.at);
       runs.back().end = std::max(runs.back().end, end);
@@ -77,6 +77,13 @@ std::vector<std::string> Runs(std::span<const WritePiece> pieces) {
                     JoinNames(run.names) + ")");
   }
   return texts;
+}
+
+// The first or the last `count` bytes of a piece: "the first 74 of the 76 bytes at &H700000
+// (the body)", "the last byte of the 2 bytes at &H169BB5 (Ball 1)".
+std::string PartOf(const WritePiece& piece, std::size_t count, bool first) {
+  return std::string(first ? "the first " : "the last ") + (count == 1 ? "byte" : std::to_string(count)) + " of the " +
+         Size(piece.bytes.size()) + " at " + HexNumber(piece.at) + " (" + piece.name + ")";
 }
 
 // Where a piece is, for a sentence: its field and text when a field placed it.
@@ -128,19 +135,35 @@ bool RomWrite::ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>
   std::ranges::sort(places, {}, &WritePiece::at);
   std::vector<std::string> taken;
   std::size_t notFree = 0;
+  std::vector<std::size_t> ours(written_);  // of each piece written, its bytes among those not FF
   for (const Run& run : MergedRuns(places)) {
     const Bytes there = rom_.ReadBytes(static_cast<RomOffset>(run.at), static_cast<std::size_t>(run.end - run.at));
-    const auto count = static_cast<std::size_t>(std::ranges::count_if(there, [](std::uint8_t b) { return b != 0xFF; }));
+    std::size_t count = 0;
+    for (std::int64_t at = run.at; at < run.at + std::ssize(there); ++at) {
+      if (there[static_cast<std::size_t>(at - run.at)] == 0xFF) continue;
+      ++count;
+      // The byte is that of the last piece written over it, if any.
+      for (std::size_t k = written_; k-- > 0;) {
+        if (pieces_[k].at <= at && at < EndOf(pieces_[k])) {
+          ++ours[k];
+          break;
+        }
+      }
+    }
     if (count == 0) continue;
     notFree += count;
     taken.push_back("the " + Size(static_cast<std::size_t>(run.end - run.at)) + " at " + HexNumber(run.at));
   }
   if (notFree > 0) {
+    std::vector<std::string> written;
+    for (std::size_t k = 0; k < written_; ++k) {
+      if (ours[k] > 0) written.push_back(Size(ours[k]) + " of " + pieces_[k].name);
+    }
     const bool one = taken.size() == 1 && taken[0].starts_with("the 1 byte ");
     const std::string question = Capitalized(JoinNames(taken)) + (one ? " is" : " are") + " not free space: " +
-                                 std::to_string(notFree) +
-                                 (notFree == 1 ? " of them is not FF." : " of them are not FF.") +
-                                 " Write over them?";
+                                 std::to_string(notFree) + (notFree == 1 ? " of them is not FF" : " of them are not FF") +
+                                 (written.empty() ? "" : ", among them " + JoinNames(written) + " written just now") +
+                                 ". Write over them?";
     if (dialogs.Message(question, MessageButtons::YesNo, "Not free space") != MessageAnswer::Yes) {
       if (written_ == 0) return false;
       throw Stopped(Failure("You chose not to write over the bytes that are not free space."), alsoNotWritten);
@@ -151,17 +174,28 @@ bool RomWrite::ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>
 }
 
 void RomWrite::CheckFile(const std::vector<std::string>& alsoNotWritten) const {
-  const auto refuse = [&](const std::string& why) { return Stopped(Failure(why), alsoNotWritten); };
+  // What was written went into the file as it was opened: a file put at its path since holds
+  // none of it, and another program that wrote into it may have written over it.
+  const auto refuse = [&](const std::string& why, std::string_view nowAtPath = {}) {
+    return Account(Failure(why), alsoNotWritten, nowAtPath);
+  };
   if (!rom_.IsOpen()) throw refuse("No ROM is open. Open a ROM first.");
+  try {
+    rom_.RequireWritable();
+  } catch (const Failure& failure) {
+    throw Stopped(failure, alsoNotWritten);
+  }
   if (!rom_.StillAtItsPath()) {
     throw refuse("\"" + rom_.romPath() + "\" is no longer the file that was opened: another program replaced, " +
-                 "moved or removed it since. Open the ROM again to work on the file that is there now.");
+                     "moved or removed it since. Open the ROM again to work on the file that is there now.",
+                 "holds none of them");
   }
   const GameIdentity now = ReadGameIdentity(rom_);
   if (now != IdentityOf(main_)) {
     throw refuse("The header of \"" + rom_.romPath() + "\" no longer names the game that was opened (" +
-                 ShownIdentity(IdentityOf(main_)) + "): it now reads \"" + ShownIdentity(now) +
-                 "\". Another program changed the file since. Open the ROM again.");
+                     ShownIdentity(IdentityOf(main_)) + "): it now reads \"" + ShownIdentity(now) +
+                     "\". Another program changed the file since. Open the ROM again.",
+                 "may not hold them: the other program may have written over them");
   }
 }
 
@@ -193,10 +227,9 @@ void RomWrite::Check(const std::vector<std::string>& alsoNotWritten) const {
   std::vector<const WritePiece*> all;
   for (const WritePiece& piece : pieces_) all.push_back(&piece);
   for (const WritePiece& piece : expected_) all.push_back(&piece);
-  const auto end = [](const WritePiece* piece) { return piece->at + static_cast<std::int64_t>(piece->bytes.size()); };
   for (std::size_t i = 0; i < all.size(); ++i) {
     for (std::size_t j = i + 1; j < all.size(); ++j) {
-      if (all[i]->at < end(all[j]) && all[j]->at < end(all[i])) {
+      if (all[i]->at < EndOf(*all[j]) && all[j]->at < EndOf(*all[i])) {
         throw refuse(PieceAt(*all[i]) + ", and " + PieceAt(*all[j]) +
                      ", would share bytes: in the game a script that writes over its own pieces cannot run. Type "
                      "offsets that keep them apart.");
@@ -214,23 +247,46 @@ void RomWrite::Write(const std::vector<std::string>& alsoNotWritten) {
     try {
       rom_.WriteBytes(static_cast<RomOffset>(piece.at), piece.bytes);
     } catch (const Failure& failure) {
+      // The system may refuse a write part way, after its first bytes.
+      reached_ = rom_.LastWriteReached();
+      if (reached_ == piece.bytes.size()) {  // all of them, and only the flush behind them failed
+        ++written_;
+        reached_ = 0;
+      }
       throw Stopped(failure, alsoNotWritten);
     }
   }
 }
 
 std::string RomWrite::WrittenText() const {
-  return JoinNames(Runs(std::span<const WritePiece>(pieces_).first(written_)));
+  std::vector<std::string> written = Runs(std::span<const WritePiece>(pieces_).first(written_));
+  if (reached_ > 0) written.push_back(PartOf(pieces_[written_], reached_, true));
+  return JoinNames(written);
 }
 
 Failure RomWrite::Stopped(const Failure& failure, const std::vector<std::string>& alsoNotWritten) const {
-  if (written_ == 0) return failure.Then("Nothing was written.");
-  std::vector<std::string> notWritten = Runs(std::span<const WritePiece>(pieces_).subspan(written_));
+  return Account(failure, alsoNotWritten, {});
+}
+
+Failure RomWrite::Account(const Failure& failure, const std::vector<std::string>& alsoNotWritten,
+                          std::string_view nowAtPath) const {
+  if (!HasWritten()) return failure.Then("Nothing was written.");
+  std::vector<std::string> notWritten;
+  std::size_t next = written_;
+  if (reached_ > 0) {
+    notWritten.push_back(PartOf(pieces_[next], pieces_[next].bytes.size() - reached_, false));
+    ++next;
+  }
+  const std::vector<std::string> rest = Runs(std::span<const WritePiece>(pieces_).subspan(next));
+  notWritten.insert(notWritten.end(), rest.begin(), rest.end());
   // A piece expected has no length yet.
   for (const WritePiece& piece : expected_) notWritten.push_back(piece.name + " at " + HexNumber(piece.at));
   notWritten.insert(notWritten.end(), alsoNotWritten.begin(), alsoNotWritten.end());
-  return failure.Then("Written before it stopped: " + WrittenText() + "." +
-                      (notWritten.empty() ? "" : " Not written: " + JoinNames(notWritten) + "."));
+  const std::string written = nowAtPath.empty() ? "Written before it stopped: " + WrittenText() + "."
+                                                : "Written before it stopped, into the file as it was opened: " +
+                                                      WrittenText() + "; the file now at that path " +
+                                                      std::string(nowAtPath) + ".";
+  return failure.Then(written + (notWritten.empty() ? "" : " Not written: " + JoinNames(notWritten) + "."));
 }
 
 }  // namespace tessarine

@@ -22,6 +22,8 @@ class RomImage;
 // The cartridge header runs from 0 to &HBF: entry code, logo, title, game code and revision.
 // No tool writes there: an offset field that still holds its initial "&H000000" would.
 inline constexpr RomOffset kCartridgeHeaderEnd = 0xC0;
+// The last offset a ROM can have: no pointer of the game reaches further.
+inline constexpr std::int64_t kLastRomOffset = INT32_MAX;
 
 // The refusal of a window filled before the last Open ROM; `again` says how to fill it from
 // the ROM that is open now.
@@ -88,10 +90,12 @@ class RomWrite {
   // The free-space question, for a tool that writes new data into free space (0xFF bytes):
   // reads the places of the pieces added since the last question, and when any byte there is
   // not 0xFF asks once, Yes or No with No the default, where and how many ("The 18 bytes at
-  // &H700000 are not free space: 12 of them are not FF. Write over them?"). True on Yes, or
-  // when all is free. On No: false while nothing is written, so that the action stops with
-  // nothing written; after a write, the Failure that names what was written. Asked after
-  // Check, which makes sure that the places lie inside the file.
+  // &H700000 are not free space: 12 of them are not FF. Write over them?"), and how many of
+  // them the pieces this action wrote before hold ("..., among them 2 bytes of the script
+  // written just now. ..."). True on Yes, or when all is free. On No: false while nothing is
+  // written, so that the action stops with nothing written; after a write, the Failure that
+  // names what was written. Asked after Check, which makes sure that the places lie inside
+  // the file.
   bool ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>& alsoNotWritten = {});
 
   // Check, the free-space question, Write; false when the answer No left all unwritten.
@@ -102,13 +106,14 @@ class RomWrite {
     return true;
   }
 
-  // Whether the action has written any piece yet.
-  bool HasWritten() const { return written_ > 0; }
+  // Whether the action has written any byte yet.
+  bool HasWritten() const { return written_ > 0 || reached_ > 0; }
 
   // The failure that ends the action here, followed by the account: "Nothing was written.",
-  // or what was written (runs of bytes, with the pieces they hold) and what was not: the
-  // pieces added and not yet written, those expected, and `alsoNotWritten`, which the action
-  // had still to work out.
+  // or what was written (runs of bytes, with the pieces they hold, and the first bytes of a
+  // piece whose write the system refused part way) and what was not: the rest of that piece,
+  // the pieces added and not yet written, those expected, and `alsoNotWritten`, which the
+  // action had still to work out.
   [[nodiscard]] Failure Stopped(const Failure& failure, const std::vector<std::string>& alsoNotWritten = {}) const;
 
   // What the action wrote, as "83 bytes at &H700000 (the body and the declined branch)";
@@ -116,8 +121,13 @@ class RomWrite {
   std::string WrittenText() const;
 
  private:
-  // The part of the rule that looks at the file: open, at its path, with its header.
+  // The part of the rule that looks at the file: open, writable, at its path, with its header.
   void CheckFile(const std::vector<std::string>& alsoNotWritten) const;
+  // Stopped, for bytes written into the file as it was opened, which another program has
+  // since replaced or written into: `nowAtPath` says what the file at the path now holds of
+  // them ("holds none of them"). Empty: they are in the file at the path.
+  [[nodiscard]] Failure Account(const Failure& failure, const std::vector<std::string>& alsoNotWritten,
+                                std::string_view nowAtPath) const;
 
   RomImage& rom_;
   const Form1& main_;
@@ -126,6 +136,7 @@ class RomWrite {
   std::vector<WritePiece> pieces_;
   std::vector<WritePiece> expected_;
   std::size_t written_ = 0;  // pieces_[0, written_) are in the file
+  std::size_t reached_ = 0;  // and the first bytes of pieces_[written_], when the system refused the rest
   std::size_t asked_ = 0;    // pieces_[0, asked_) have been through the free-space question
   bool apart_ = false;
 };

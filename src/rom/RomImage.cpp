@@ -140,6 +140,7 @@ void RomImage::Close() noexcept {
   regularFile_ = false;
   romPath_.clear();
   position_ = 0;
+  lastWriteReached_ = 0;
 }
 
 bool RomImage::StillAtItsPath() const {
@@ -176,6 +177,14 @@ bool RomImage::StillAtItsPath() const {
 void RomImage::RequireOpen(const char* what) const {
   if (file_ == nullptr) {
     throw Failure(std::string("No ROM is open, so nothing was ") + what + ". Open a ROM first.");
+  }
+}
+
+void RomImage::RequireWritable() const {
+  RequireOpen("written");
+  if (readOnly_) {
+    throw Failure("The ROM is open read-only (the file cannot be written), so nothing can be written to \"" +
+                  romPath_ + "\".");
   }
 }
 
@@ -221,11 +230,9 @@ std::int16_t RomImage::ReadWord() { return static_cast<std::int16_t>(ReadLittleE
 std::int32_t RomImage::ReadLong() { return static_cast<std::int32_t>(ReadLittleEndian(4)); }
 
 void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
-  RequireOpen("written");
+  lastWriteReached_ = 0;
+  RequireWritable();
   const std::string where = " at " + HexPosition(position_) + " of \"" + romPath_ + "\"";
-  if (readOnly_) {
-    throw Failure("The ROM is open read-only (the file cannot be written), so nothing was written" + where + ".");
-  }
   if (!Holds(position_, static_cast<std::int64_t>(bytes.size()))) {
     throw Failure("Nothing was written" + where + ": " + std::to_string(bytes.size()) +
                   " bytes there would run past the end of the ROM, which is " + HexPosition(Length()) +
@@ -235,6 +242,7 @@ void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
   const bool placed = SeekTo(file_, position_);
   // No bytes may come with no buffer at all, which fwrite must not be given.
   const std::size_t put = placed && !bytes.empty() ? std::fwrite(bytes.data(), 1, bytes.size(), file_) : 0;
+  lastWriteReached_ = put;  // unbuffered: what fwrite took has reached the file
   const bool flushed = std::fflush(file_) == 0;
   const int error = errno;
   std::clearerr(file_);

@@ -40,6 +40,10 @@ class RomImage {
   // is open.
   bool StillAtItsPath() const;
   bool IsReadOnly() const { return readOnly_; }
+  // Throws the Failure that says so when no ROM is open or it is open read-only: the one
+  // sentence by which every write of a read-only ROM is refused, for a tool to ask before
+  // its questions.
+  void RequireWritable() const;
   const std::string& romPath() const { return romPath_; }
   std::int64_t Position() const { return position_; }
 
@@ -59,6 +63,10 @@ class RomImage {
   void WriteWord(std::int16_t value);
   void WriteLong(std::int32_t value);
   void WriteBytes(std::span<const std::uint8_t> bytes);
+  // How many bytes of the last write reached the file, from its first on: all of them after
+  // a write that returned; after one that failed, those the system took before it refused
+  // the rest (often none).
+  std::size_t LastWriteReached() const { return lastWriteReached_; }
 
   // Positioned forms: Seek(offset), then the plain operation.
   std::uint8_t ReadByte(RomOffset offset);
@@ -80,6 +88,7 @@ class RomImage {
   bool regularFile_ = false;
   std::string romPath_;
   std::int64_t position_ = 0;
+  std::size_t lastWriteReached_ = 0;
 };
 
 }  // namespace tessarine

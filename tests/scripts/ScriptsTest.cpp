@@ -268,6 +268,10 @@ TEST(ScriptBuildersTest, NoToTheFreeSpaceQuestionWritesNothingOrSaysWhatWasWritt
        "Text Offset: \"&HFFFFFD\": the message, 4 bytes from &HFFFFFD, would run past the end of the ROM, which is "
        "&H1000000 bytes long. Written before it stopped: 20 bytes at &H700000 (the script). Not written: 4 bytes at "
        "&HFFFFFD (the message).", [](Builder& b) { b.form4.Text12.text = "&HFFFFFD"; }},  // room for FF 00 only
+      {"own layout, a message over the script just written", 4, false, {Yes}, {"The 4 bytes at &H7000FE are not "
+       "free space: 4 of them are not FF, among them 2 bytes of the script written just now. Write over them?"},
+       {{kS + 0xFE, 2}, {kS + 0x101, 19}}, "",  // FF 00 over the script's first two bytes, where FF stood
+       [](Builder& b) { b.form4.Text3.text = "&H700100", b.form4.Text12.text = "&H7000FE"; }},
       {"own layout, No to the block", 5, false, {No}, {"The 83 bytes at &H700000, the 9 bytes at &H70005D and the 48 "
        "bytes at &H700067 are not free space: 134 of them are not FF. Write over them?"}, {}, "", {}, 0},
       {"game-ready, over free space: no question", 5, true, {}, {}, {{kS + 0x200, 120}, {kS + 0x279, 38}, {kT + 0x100, 2}},
@@ -361,6 +365,8 @@ TEST(FreeSpaceTest, FindsTheFirstAlignedRunWithOneFFBehind) {
       {{{0x00, 0x200}}, 0x101, 0, 0x104},                  // length 0 takes one FF
       {{}, 0, 0, std::nullopt},
       {{{0x1000A0, 0x40}}, 0xC0, 0x30, 0x1000A0, 0x300000},  // across the first block's end
+      {{{0xC0, 0x140}}, INT64_MAX, 1, std::nullopt},       // a start or a length past the last offset a ROM can
+      {{{0xC0, 0x140}}, 0, INT64_MAX, std::nullopt},       // have finds nothing
   };
   for (const auto& row : rows) {
     test::FixtureRom fixture("AXPE", row.size);

@@ -54,6 +54,7 @@ class ScriptedDialogs : public Dialogs {
   }
   std::optional<std::string> Input(std::string_view prompt, std::string_view title,
                                    std::string_view initial) override {
+    if (whileAsked) std::exchange(whileAsked, {})();
     inputs.push_back({std::string(prompt), std::string(title), std::string(initial)});
     return Next(inputAnswers, std::optional<std::string>());
   }
