@@ -66,12 +66,21 @@ inline std::filesystem::path TemporaryPath(std::string_view stem) {
 }
 
 // Puts the file `from` at the name `to`, as a program that saves a new file does: by a rename
-// over it. False where the system refuses (Windows renames nothing over a file that is open,
-// nor frees the name of one deleted while open): the file at `to` stays, and `from` goes.
+// over it, or where the system renames nothing over a file that is open (Windows), as a
+// Windows program does it: the open file renamed out of the way (its opener shares deleting),
+// the new one renamed in, and the old one deleted, which the system does once it is closed.
+// False where the system refuses even that: the file at `to` stays, and `from` goes.
 inline bool RenameOver(const std::string& from, const std::string& to) {
   std::error_code refused, ignored;
   std::filesystem::rename(ToFilePath(from), ToFilePath(to), refused);
-  if (refused) std::filesystem::remove(ToFilePath(from), ignored);
+  if (refused) {
+    const std::string aside = to + ".old";
+    std::error_code moved;
+    std::filesystem::rename(ToFilePath(to), ToFilePath(aside), moved);
+    if (!moved) std::filesystem::rename(ToFilePath(from), ToFilePath(to), refused);
+    if (!moved && refused) std::filesystem::rename(ToFilePath(aside), ToFilePath(to), ignored);
+    std::filesystem::remove(ToFilePath(refused ? from : aside), ignored);
+  }
   return !refused;
 }
 
