@@ -21,9 +21,9 @@ inline constexpr std::string_view kItemNamePrompt = "Enter a new name. Max Lengt
 // is open while they belong to no ROM open (Form1::tables): an unknown game whose Unsupported
 // ROM dialog was left without "Continue".
 inline constexpr std::string_view kNoTablesOfThisRom =
-    "The name tables of the ROM that is open are not known: it is a game that Tessarine does not know, and the "
-    "Unsupported ROM dialog was left without \"Continue\". Open the ROM again and give its tables there, or open a "
-    "ROM of a known game.";
+    "The name tables of the ROM that is open are not known: Tessarine does not know the tables of its game or "
+    "revision, and the Unsupported ROM dialog was left without \"Continue\". Open the ROM again and give its tables "
+    "there, or open a ROM of a known game.";
 
 // The typed name cut to its first `characters` characters, or filled up to them with
 // blanks. Counts characters, not bytes, and does it before encoding, so a form of several

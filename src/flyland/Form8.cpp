@@ -65,21 +65,18 @@ void PressLoadbutton(Form8& form, RomImage& rom, const Form1& main) {
   try {
     record = ReadFlyRecord(rom, IdentityOf(main), RecordOnScreen(form));
   } catch (const Failure&) {
-    // The fields hold no record of this ROM: Save refuses until a load reads one.
+    // The fields hold no record of this ROM, and no marker stands on its landing: Save refuses
+    // until a load reads one.
     const Form8 start;
     form.BL.caption = start.BL.caption;
     form.LB.caption = start.LB.caption;
     form.XXt.text = start.XXt.text;
     form.YYt.text = start.YYt.text;
+    form.Image1.visible = form.Shape2.visible = false;
     form.filled = {};
     throw;
   }
   if (record) {
-    // Emerald names its last two records otherwise than Ruby and Sapphire: the list that stands
-    // names the records of the game open now, whichever game the window opened on.
-    if (const auto table = FindFlyTable(IdentityOf(main)); form.hoenn.visible && table->list != FlyList::kanto) {
-      form.hoenn.rows = LocationRows(table->list);
-    }
     ShowRecord(form, *record);
     form.filled.Fill(main);
   }

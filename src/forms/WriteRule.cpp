@@ -103,8 +103,10 @@ RomOffset ParseInsertOffset(std::string_view text, std::string_view field, std::
   throw Failure(FieldAndText(field, text) + where + " " + std::string(hint));
 }
 
-std::string FilledBeforeLastOpen(std::string_view again) {
-  return "This window was filled before the last Open ROM, so what it holds may belong to the ROM opened before. " +
+std::string NotFilledFromOpenRom(const FilledAt& filled, std::string_view again) {
+  return (filled.opening ? "This window was filled before the last Open ROM, so what it holds may belong to the ROM "
+                           "opened before. "
+                         : "This window holds nothing read from the ROM that is open now: its last read failed. ") +
          std::string(again);
 }
 
@@ -174,11 +176,7 @@ bool RomWrite::ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>
 }
 
 void RomWrite::CheckFile(const std::vector<std::string>& alsoNotWritten) const {
-  // What was written went into the file as it was opened: a file put at its path since holds
-  // none of it, and another program that wrote into it may have written over it.
-  const auto refuse = [&](const std::string& why, std::string_view nowAtPath = {}) {
-    return Account(Failure(why), alsoNotWritten, nowAtPath);
-  };
+  const auto refuse = [&](const std::string& why) { return Stopped(Failure(why), alsoNotWritten); };
   if (!rom_.IsOpen()) throw refuse("No ROM is open. Open a ROM first.");
   try {
     rom_.RequireWritable();
@@ -187,16 +185,25 @@ void RomWrite::CheckFile(const std::vector<std::string>& alsoNotWritten) const {
   }
   if (!rom_.StillAtItsPath()) {
     throw refuse("\"" + rom_.romPath() + "\" is no longer the file that was opened: another program replaced, " +
-                     "moved or removed it since. Open the ROM again to work on the file that is there now.",
-                 "holds none of them");
+                 "moved or removed it since. Open the ROM again to work on the file that is there now.");
   }
   const GameIdentity now = ReadGameIdentity(rom_);
   if (now != IdentityOf(main_)) {
     throw refuse("The header of \"" + rom_.romPath() + "\" no longer names the game that was opened (" +
-                     ShownIdentity(IdentityOf(main_)) + "): it now reads \"" + ShownIdentity(now) +
-                     "\". Another program changed the file since. Open the ROM again.",
-                 "may not hold them: the other program may have written over them");
+                 ShownIdentity(IdentityOf(main_)) + "): it now reads \"" + ShownIdentity(now) +
+                 "\". Another program changed the file since. Open the ROM again.");
   }
+}
+
+std::string RomWrite::NowAtPath() const {
+  // What was written went into the file as it was opened: a file put at its path since holds
+  // none of it, and another program that wrote into it may have written over it.
+  if (!rom_.IsOpen()) return {};
+  if (!rom_.StillAtItsPath()) return "holds none of them";
+  if (ReadGameIdentity(rom_) != IdentityOf(main_)) {
+    return "may not hold them: the other program may have written over them";
+  }
+  return {};
 }
 
 void RomWrite::Check(const std::vector<std::string>& alsoNotWritten) const {
@@ -265,11 +272,6 @@ std::string RomWrite::WrittenText() const {
 }
 
 Failure RomWrite::Stopped(const Failure& failure, const std::vector<std::string>& alsoNotWritten) const {
-  return Account(failure, alsoNotWritten, {});
-}
-
-Failure RomWrite::Account(const Failure& failure, const std::vector<std::string>& alsoNotWritten,
-                          std::string_view nowAtPath) const {
   if (!HasWritten()) return failure.Then("Nothing was written.");
   std::vector<std::string> notWritten;
   std::size_t next = written_;
@@ -282,10 +284,11 @@ Failure RomWrite::Account(const Failure& failure, const std::vector<std::string>
   // A piece expected has no length yet.
   for (const WritePiece& piece : expected_) notWritten.push_back(piece.name + " at " + HexNumber(piece.at));
   notWritten.insert(notWritten.end(), alsoNotWritten.begin(), alsoNotWritten.end());
+  const std::string nowAtPath = NowAtPath();
   const std::string written = nowAtPath.empty() ? "Written before it stopped: " + WrittenText() + "."
                                                 : "Written before it stopped, into the file as it was opened: " +
                                                       WrittenText() + "; the file now at that path " +
-                                                      std::string(nowAtPath) + ".";
+                                                      nowAtPath + ".";
   return failure.Then(written + (notWritten.empty() ? "" : " Not written: " + JoinNames(notWritten) + "."));
 }
 

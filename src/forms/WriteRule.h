@@ -25,9 +25,10 @@ inline constexpr RomOffset kCartridgeHeaderEnd = 0xC0;
 // The last offset a ROM can have: no pointer of the game reaches further.
 inline constexpr std::int64_t kLastRomOffset = INT32_MAX;
 
-// The refusal of a window filled before the last Open ROM; `again` says how to fill it from
-// the ROM that is open now.
-std::string FilledBeforeLastOpen(std::string_view again);
+// The refusal of a window that holds nothing read from the ROM that is open now: it was filled
+// before the last Open ROM, or a read that failed emptied it (`filled` tells which); `again`
+// says how to fill it from the ROM that is open now.
+std::string NotFilledFromOpenRom(const FilledAt& filled, std::string_view again);
 
 // ParseOffset of an offset field's text, refused where it lies inside the cartridge header
 // ("&H000000", "0" and "&H0" alike) or before the start of the ROM. The Failure names the
@@ -68,8 +69,8 @@ class RomWrite {
   RomWrite& KeepApart();
 
   // The rule, before the pieces added and not yet written, and those expected, are written:
-  //   - a ROM is open, the path it was opened by still names that file, and its header still
-  //     holds the game code and revision read at the last Open ROM;
+  //   - a ROM is open and can be written, the path it was opened by still names that file, and
+  //     its header still holds the game code and revision read at the last Open ROM;
   //   - the form the values come from was filled after the last Open ROM;
   //   - each piece lies wholly inside the file, ends at or before the last offset a ROM can
   //     have, and keeps out of the cartridge header.
@@ -113,7 +114,8 @@ class RomWrite {
   // or what was written (runs of bytes, with the pieces they hold, and the first bytes of a
   // piece whose write the system refused part way) and what was not: the rest of that piece,
   // the pieces added and not yet written, those expected, and `alsoNotWritten`, which the
-  // action had still to work out.
+  // action had still to work out. Bytes written into a file that another program has since
+  // replaced or written into are said to be in the file as it was opened (NowAtPath).
   [[nodiscard]] Failure Stopped(const Failure& failure, const std::vector<std::string>& alsoNotWritten = {}) const;
 
   // What the action wrote, as "83 bytes at &H700000 (the body and the declined branch)";
@@ -123,11 +125,10 @@ class RomWrite {
  private:
   // The part of the rule that looks at the file: open, writable, at its path, with its header.
   void CheckFile(const std::vector<std::string>& alsoNotWritten) const;
-  // Stopped, for bytes written into the file as it was opened, which another program has
-  // since replaced or written into: `nowAtPath` says what the file at the path now holds of
-  // them ("holds none of them"). Empty: they are in the file at the path.
-  [[nodiscard]] Failure Account(const Failure& failure, const std::vector<std::string>& alsoNotWritten,
-                                std::string_view nowAtPath) const;
+  // What the file at the path holds of the bytes written: "" when it is the file they went
+  // into, as it was opened; otherwise what another program that replaced it or wrote into it
+  // since has left of them ("holds none of them").
+  std::string NowAtPath() const;
 
   RomImage& rom_;
   const Form1& main_;

@@ -183,8 +183,7 @@ void RomImage::RequireOpen(const char* what) const {
 void RomImage::RequireWritable() const {
   RequireOpen("written");
   if (readOnly_) {
-    throw Failure("The ROM is open read-only (the file cannot be written), so nothing can be written to \"" +
-                  romPath_ + "\".");
+    throw Failure("\"" + romPath_ + "\" is open read-only: the file cannot be written.");
   }
 }
 

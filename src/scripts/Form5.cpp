@@ -69,7 +69,7 @@ void SetCombo2Selection(Form5& form, int index) {
 
 void InsertGivePokemon(Form5& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
   RomWrite write(rom, main);
-  write.From(form.filled, FilledBeforeLastOpen("Close the form and open it again from the Tools menu to take the "
+  write.From(form.filled, NotFilledFromOpenRom(form.filled, "Close the form and open it again from the Tools menu to take the "
                                                "lists of the ROM that is open now."));
   const bool gameReady = form.Check1.checked;
   std::string family;

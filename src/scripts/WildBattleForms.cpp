@@ -112,7 +112,7 @@ void PickTypedSpecies(WildBattleForm& form, Dialogs& dialogs) {
 
 void InsertWildBattle(Form3& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
   RomWrite write(rom, main);
-  write.From(form.filled, FilledBeforeLastOpen(kLoadAgain));
+  write.From(form.filled, NotFilledFromOpenRom(form.filled, kLoadAgain));
   try {
     const Battle b = ParseBattle(form, form.Text1);
     write.Add({std::string(kScriptPiece), ParseInsertOffset(form.Text3.text, kScriptField),
@@ -128,7 +128,7 @@ void InsertWildBattle(Form3& form, const Form1& main, RomImage& rom, Dialogs& di
 
 void InsertWildBattle(Form4& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
   RomWrite write(rom, main);
-  write.From(form.filled, FilledBeforeLastOpen(kLoadAgain));
+  write.From(form.filled, NotFilledFromOpenRom(form.filled, kLoadAgain));
   const bool gameReady = form.Check1.checked;
   std::optional<std::string> typed;
   if (gameReady) {

@@ -19,7 +19,9 @@ namespace {
 // A builder opened on a ROM whose name tables are not known: its item list stays empty, and
 // the person is told why, once for the opening.
 void TellUnknownTables(Session& session, Dialogs& dialogs) {
-  if (session.rom.IsOpen() && !session.form1.tables.Current(session.form1)) dialogs.Message(kNoTablesOfThisRom);
+  if (session.rom.IsOpen() && !session.form1.tables.Current(session.form1)) {
+    dialogs.Message("The Held Item list is empty. " + std::string(kNoTablesOfThisRom));
+  }
 }
 
 }  // namespace

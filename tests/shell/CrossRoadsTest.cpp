@@ -206,12 +206,13 @@ const Road kRoads[] = {
        d.Open(d.ruby);
        d.Show(WindowName::Form4);
        SetCombo3Selection(d.session.form4, 5);
-       d.session.form4.Text3.text = "&H700000", d.session.form4.Text12.text = "&H7A0000";
-       d.dialogs.whileAsked = [&d] { d.Put(d.ruby, true); };  // while the message is typed
+       d.session.form4.Text3.text = "&H700000", d.session.form4.Text12.text = "&H38EE50";  // the message over data
+       // While the free-space question that follows the message stands, answered No.
+       d.dialogs.whileAsked = [&d] { d.dialogs.whileAsked = [&d] { d.Put(d.ruby, true); }; };
      },
      [](Desk& d) { InsertWildBattle(d.session.form4, d.form, d.rom, d.dialogs); }, {},
      "Written before it stopped, into the file as it was opened: 20 bytes at &H700000 (the script); the file now at "
-     "that path holds none of them. Not written: 2 bytes at &H7A0000 (the message)."},
+     "that path holds none of them. Not written: 2 bytes at &H38EE50 (the message)."},
     {"a read-only ROM is refused before any question",
      [](Desk& d) {
        const test::ReadOnlyFile readOnly(d.path);
@@ -239,10 +240,11 @@ const Road kRoads[] = {
        EXPECT_THAT(test::FailureOf([&] { SelectLocation(d.session.form8, d.rom, d.form, FlyList::hoenn, 9); }),
                    HasSubstr("does not lie wholly inside the ROM"));
        EXPECT_EQ(d.session.form8.BL.caption + d.session.form8.XXt.text, "B:0&H00");
+       EXPECT_FALSE(d.session.form8.Image1.visible || d.session.form8.Shape2.visible);
        d.Put(d.ruby);  // the whole ROM again, in place
      },
      [](Desk& d) { PressSavebutton(d.session.form8, d.rom, d.form, d.dialogs); }, {},
-     "Pick a location, or press \"Load\""},
+     "its last read failed. Pick a location, or press \"Load\""},
     {"starters past the end of a short ROM show no value, and are saved only once read",
      [](Desk& d) {
        d.Open(d.ruby);
