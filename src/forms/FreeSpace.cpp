@@ -74,17 +74,18 @@ std::optional<RomOffset> FindFreeSpace(RomImage& rom, std::int64_t from, std::in
   return std::nullopt;
 }
 
+std::optional<RomOffset> PlaceIn(const TextBox& field) {
+  try {
+    return ParseInsertOffset(field.text, {});
+  } catch (const Failure&) {
+    return std::nullopt;
+  }
+}
+
 void PressFindFreeSpace(TextBox& field, std::string_view fieldName, std::string_view what, std::int64_t length,
                         const TextBox* otherField, std::int64_t otherLength, RomImage& rom, Dialogs& dialogs) {
   const std::int64_t from = ParseOffset(field.text, fieldName);
-  std::optional<std::int64_t> other;
-  if (otherField != nullptr) {
-    try {
-      if (const RomOffset at = ParseOffset(otherField->text); at >= kCartridgeHeaderEnd) other = at;
-    } catch (const Failure&) {
-      // no offset there yet: nothing to keep clear
-    }
-  }
+  const std::optional<std::int64_t> other = otherField != nullptr ? PlaceIn(*otherField) : std::nullopt;
   std::optional<RomOffset> found = FindFreeSpace(rom, from, length);
   // A place whose bytes, or the 0xFF behind them, meet the other piece's: on behind that piece.
   while (found && other && *found < *other + otherLength + 1 && *other < *found + length + 1) {

@@ -23,6 +23,10 @@ std::optional<RomOffset> FindFreeSpace(std::span<const std::uint8_t> rom, std::i
 // The same in the open ROM file, read in one block from the first place it can be.
 std::optional<RomOffset> FindFreeSpace(RomImage& rom, std::int64_t from, std::int64_t length);
 
+// The place that an offset field names for a piece of the form: its offset where the text is
+// one and lies out of the cartridge header; none where no piece could be written there yet.
+std::optional<RomOffset> PlaceIn(const TextBox& field);
+
 // A "Find Free Space" button beside an offset field: the search starts at the offset in
 // `field` (a text that is no offset is a Failure that names `fieldName`), for `length` bytes
 // of `what` ("the script"). A place of the form's other piece, whose offset stands in

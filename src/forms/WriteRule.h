@@ -22,8 +22,6 @@ class RomImage;
 // The cartridge header runs from 0 to &HBF: entry code, logo, title, game code and revision.
 // No tool writes there: an offset field that still holds its initial "&H000000" would.
 inline constexpr RomOffset kCartridgeHeaderEnd = 0xC0;
-// The last offset a ROM can have: no pointer of the game reaches further.
-inline constexpr std::int64_t kLastRomOffset = INT32_MAX;
 
 // The refusal of a window that holds nothing read from the ROM that is open now: it was filled
 // before the last Open ROM, or a read that failed emptied it (`filled` tells which); `again`

@@ -6,6 +6,8 @@ namespace tessarine {
 
 // A 0-based byte position in the ROM file. Signed, like every long of the system.
 using RomOffset = std::int32_t;
+// The last offset a ROM can have: no RomOffset, and no pointer of the game, reaches further.
+inline constexpr std::int64_t kLastRomOffset = INT32_MAX;
 
 // A pointer as game data stores it: the ROM offset plus the cartridge's base address.
 inline constexpr std::int32_t kGbaRomBase = 0x08000000;

@@ -2,6 +2,7 @@
 
 #include "forms/Controls.h"
 #include "forms/Dialogs.h"
+#include "forms/FreeSpace.h"
 #include "forms/WriteRule.h"
 #include "rom/Failure.h"
 #include "rom/HexField.h"
@@ -30,15 +31,11 @@ std::optional<std::string> MessageForFreeSpace(const TextBox& field, std::string
                                                const TextBox& textField, Dialogs& dialogs, std::string_view title,
                                                std::string_view prompt, std::string& kept) {
   static_cast<void>(ParseOffset(field.text, fieldName));
-  if (&field != &textField) {
-    if (!kept.empty()) return kept;
-    try {
-      static_cast<void>(ParseInsertOffset(textField.text, {}));
-    } catch (const Failure&) {
-      return kept;  // no place for a message yet: nothing to keep clear of
-    }
-  }
-  return AskMessage(dialogs, title, prompt, kept);
+  if (&field == &textField) return AskMessage(dialogs, title, prompt, kept);
+  // Beside the script: no place for a message yet, or one kept, or none typed (a cancelled
+  // box): the script keeps clear of what the insert would write, the least being its end bytes.
+  if (!kept.empty() || !PlaceIn(textField)) return kept;
+  return AskMessage(dialogs, title, prompt, kept).value_or(std::string());
 }
 
 bool AskAndWriteMessage(RomWrite& write, Dialogs& dialogs, std::string_view title, std::string_view prompt,

@@ -53,8 +53,10 @@ std::optional<std::string> AskMessage(Dialogs& dialogs, std::string_view title, 
 // of. The button's own field is parsed first: one that is no offset is refused before any
 // question. Beside the text offset (`field` is `textField`) the message is asked for as
 // AskMessage does; beside the script offset only while none is kept and `textField` holds a
-// place for one (ParseInsertOffset), so that the place kept clear of is as long as the
-// message the insert will write. None when the box was cancelled: the search stops.
+// place for one (PlaceIn), so that the place kept clear of is as long as the message the
+// insert will write. None when the box beside the text offset was cancelled: the search
+// stops. Beside the script a cancelled box gives the empty message, whose end bytes the
+// insert writes all the same.
 std::optional<std::string> MessageForFreeSpace(const TextBox& field, std::string_view fieldName,
                                                const TextBox& textField, Dialogs& dialogs, std::string_view title,
                                                std::string_view prompt, std::string& kept);

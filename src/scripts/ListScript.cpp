@@ -25,7 +25,7 @@ constexpr std::size_t kCommandSpan = 7;
 constexpr std::size_t kBlockSize = std::size_t{1} << 20;
 
 // Offsets reach no further than a RomOffset does.
-constexpr std::int64_t kAddressable = std::int64_t{INT32_MAX} + 1;
+constexpr std::int64_t kAddressable = kLastRomOffset + 1;
 
 // ---- The command vocabulary -------------------------------------------------------------
 

@@ -410,6 +410,10 @@ TEST(FreeSpaceTest, EachButtonFindsRoomForItsPieceOrSaysThereIsNone) {
          b.dialogs.inputAnswers = {std::nullopt};  // the message cancelled
          return PressFindTextSpace(b.form4, b.rom, b.dialogs), b.form4.Text12.text;
        }, "&H7A0000"},
+      {[](Builder& b) {
+         b.dialogs.inputAnswers = {std::nullopt}, b.form4.Text12.text = "&H700100";  // the script clear of FF 00
+         return PressFindScriptSpace(b.form4, b.rom, b.dialogs), b.form4.Text3.text;
+       }, "&H700104"},
   };
   for (const auto& row : rows) {
     Builder b;
