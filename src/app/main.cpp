@@ -19,10 +19,11 @@ namespace {
 
 #ifdef Q_OS_UNIX
 // SIGTERM, SIGHUP and SIGINT (the end of a desktop session, a closed terminal, Ctrl+C) end the
-// program as a quit does: every event loop returns, a question that stands answers No, and main
-// returns, so that every object is destroyed, among them the file dialog's temporary folder.
-// The handler only writes a byte into a socket, and never waits: a full socket holds a quit
-// already. The event loop reads the bytes and quits.
+// program as a quit does: every event loop returns, a question that stands is answered by
+// nobody (QtDialogs ends its action: nothing more is written), and main returns, so that every
+// object is destroyed, among them the file dialog's temporary folder. The handler only writes a
+// byte into a socket, which never waits: a full socket holds a quit already. The event loop
+// reads the bytes and quits.
 int signalSocket[2] = {-1, -1};
 
 void OnEndSignal(int) {
@@ -32,14 +33,15 @@ void OnEndSignal(int) {
   errno = saved;
 }
 
-void QuitOnEndSignals(QApplication& app) {
+void QuitOnEndSignals(QApplication& app, tessarine::QtDialogs& dialogs) {
   if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signalSocket) != 0) return;
   for (const int end : signalSocket) ::fcntl(end, F_SETFL, ::fcntl(end, F_GETFL) | O_NONBLOCK);
   auto* notifier = new QSocketNotifier(signalSocket[1], QSocketNotifier::Read, &app);
-  QObject::connect(notifier, &QSocketNotifier::activated, &app, [] {
+  QObject::connect(notifier, &QSocketNotifier::activated, &app, [&dialogs] {
     char bytes[64];
     while (::read(signalSocket[1], bytes, sizeof bytes) > 0) {
     }
+    dialogs.ProgramEnding();
     QCoreApplication::exit(0);
   });
   struct sigaction action = {};
@@ -55,7 +57,7 @@ void QuitOnEndSignals(QApplication& app) {
   }
 }
 #else
-void QuitOnEndSignals(QApplication&) {}
+void QuitOnEndSignals(QApplication&, tessarine::QtDialogs&) {}
 #endif
 
 }  // namespace
@@ -68,9 +70,9 @@ int main(int argc, char* argv[]) {
   // The main window may be hidden while the Unsupported ROM dialog stands alone; the
   // program ends when the main window closes, not when the last window does.
   QApplication::setQuitOnLastWindowClosed(false);
-  QuitOnEndSignals(app);
 
   tessarine::QtDialogs dialogs;
+  QuitOnEndSignals(app, dialogs);
   tessarine::QtShell shell(dialogs);
   shell.ShowWindow(tessarine::WindowName::Form1);
   return QApplication::exec();

@@ -258,6 +258,31 @@ TEST(QtDialogsTest, EnterInAYesNoQuestionAnswersNo) {
   EXPECT_EQ(QtDialogs().Message("Insert?", MessageButtons::YesNo, kDefaultTitle), MessageAnswer::No);
 }
 
+// Once the program is ending, as when a quit closes the message box of an insert (a box that
+// says "cancelled"), no question is answered for the person: the action ends with nothing more
+// written than the script before the box, and tells so on standard error.
+TEST(QtDialogsTest, OnceTheProgramEndsNoQuestionIsAnsweredAndNothingMoreIsWritten) {
+  test::FixtureRom fixture = BuilderRom();
+  QtDialogs dialogs;
+  QtShell shell(dialogs);
+  shell.Run([&] { OpenDropped(shell.form1(), shell.rom(), shell.dialogs(), {{fixture.path()}, {}}); });
+  shell.ShowWindow(WindowName::Form4);  // the message is asked after the script is written
+  QWidget* form4 = shell.Window(WindowName::Form4);
+  Type(form4->findChild<QLineEdit*>("Text3"), "&H700000");
+  Type(form4->findChild<QLineEdit*>("Text12"), "&H700200");
+  const ByteOracle oracle(fixture.path());
+  QTimer::singleShot(0, [&] {
+    dialogs.ProgramEnding();
+    QApplication::activeModalWidget()->close();
+  });
+  testing::internal::CaptureStderr();
+  QTest::mouseClick(form4->findChild<QPushButton*>("Command1"), Qt::LeftButton);
+  EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr(QtDialogs::kProgramEnding));
+  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 20}}));
+  EXPECT_THROW(dialogs.Message("Write over them?", MessageButtons::YesNo, kDefaultTitle), Failure);
+  EXPECT_THROW(dialogs.OpenFile("Open", "Pokemon Advance rom|*.gba"), Failure);
+}
+
 // The ROM dialog starts in the folder of the last ROM chosen, in this run: Qt's own record of
 // the dialog's folders is left nowhere.
 TEST(QtDialogsTest, TheFileDialogRemembersItsFolderForTheRunOnly) {
