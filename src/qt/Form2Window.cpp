@@ -40,7 +40,6 @@ Form2Window::Form2Window(QtShell& shell, Form2& form)
     grid->addWidget(label, row, 0);
     grid->addWidget(list, row++, 1);
   }
-  for (QPushButton* button : {Command1_, Command3_, Command2_}) button->setAutoDefault(true);
   Command1_->setDefault(true);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
@@ -64,6 +63,7 @@ Form2Window::Form2Window(QtShell& shell, Form2& form)
   });
   connect(Command2_, &QPushButton::clicked, this, [this] { shell_.Run([this] { PressDone(shell_.dialogs()); }); });
   CloseOnEscape(this, Command2_);
+  WireEnter(this);  // Enter on a button presses it
   Refresh();
 }
 

@@ -139,11 +139,24 @@ void ExpectWhole(QWidget* window, const char* field, int digits) {
   }
 }
 
+// The buttons of `window` that Enter on them does not press (their actions kept from running).
+std::string DeafToEnter(QWidget* window) {
+  std::string deaf;
+  for (QPushButton* button : window->findChildren<QPushButton*>()) {
+    const QSignalBlocker quiet(button);
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(button, &enter);
+    if (button->isEnabled() && !enter.isAccepted()) deaf += button->objectName().toStdString() + " ";
+  }
+  return deaf;
+}
+
 // In a large desktop font, each window's number fields show their longest texts whole, and each
 // window keeps the size of what it holds (none can be resized). Each tool
 // opens with its first field in focus, Tab walks its fields as they are read (Find Free Space
 // after its field, the box before Insert), Enter in a field that is no offset moves on as Tab
-// does (it loads, saves and inserts nothing), and Esc closes it; none of this writes.
+// does (it loads, saves and inserts nothing), Enter on a button presses it, and Esc closes it;
+// none of this writes.
 TEST(ToolKeysTest, FieldsFitInALargeFontTabAndEnterWalkThemInOrderAndEscClosesWithoutWriting) {
   const QFont font = QApplication::font();
   QApplication::setFont(QFont(font.family(), 20));
@@ -160,6 +173,7 @@ TEST(ToolKeysTest, FieldsFitInALargeFontTabAndEnterWalkThemInOrderAndEscClosesWi
   }
   QWidget* main = shell.Window(WindowName::Form1);
   EXPECT_EQ(main->minimumSize(), main->maximumSize());
+  EXPECT_EQ(DeafToEnter(main), "");
   const struct {
     MenuEntry entry;
     WindowName name;
@@ -206,6 +220,7 @@ TEST(ToolKeysTest, FieldsFitInALargeFontTabAndEnterWalkThemInOrderAndEscClosesWi
       EXPECT_EQ(focus != nullptr ? focus->objectName().toStdString() : "", next) << field;
     }
     EXPECT_EQ(dialogs.messages.size(), told);
+    EXPECT_EQ(DeafToEnter(window), "");
     QTest::keyClick(window->focusWidget(), Qt::Key_Escape);
     QTest::qWait(0);
     EXPECT_EQ(shell.Window(row.name), nullptr);
