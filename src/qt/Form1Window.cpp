@@ -21,6 +21,7 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QStackedLayout>
+#include <QStyle>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -206,6 +207,9 @@ void Form1Window::BuildWidgets() {
   fields->setHorizontalSpacing(8);
   fields->addWidget(OnePlace(this, {Combo3_, Combo4_, Combo5_}), 0, 0, 1, 4);
   auto* loadSave = new QHBoxLayout;
+  // A row inside a grid whose two spacings differ gets none of its own: the style's, as between
+  // any two buttons of a row.
+  loadSave->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
   loadSave->addWidget(Command10_);
   loadSave->addWidget(Command9_);
   fields->addLayout(loadSave, 0, 4);

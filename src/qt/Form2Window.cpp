@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include "editors/Form2.h"
 #include "qt/Form1Window.h"
@@ -42,6 +43,7 @@ Form2Window::Form2Window(QtShell& shell, Form2& form)
   }
   Command1_->setDefault(true);
   auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));  // the grid has none to give
   buttons->addStretch();
   buttons->addWidget(Command1_);
   buttons->addWidget(Command3_);
