@@ -434,19 +434,26 @@ bool Form1Window::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
+namespace {
+
 // Every drag is taken as a copy, so that what cannot be opened reaches the drop and is refused
-// with a sentence, and the program it comes from never deletes what it gave.
-void Form1Window::dragEnterEvent(QDragEnterEvent* event) {
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
+// with a sentence, and the program it comes from never deletes what it gave. A drag that offers
+// no copy (only a move) is refused at once: asked for a copy, Qt would answer with the move.
+bool TakenAsCopy(QDropEvent* event) {
+  const bool copy = event->possibleActions().testFlag(Qt::CopyAction);
+  event->setDropAction(copy ? Qt::CopyAction : Qt::IgnoreAction);
+  event->setAccepted(copy);
+  return copy;
 }
 
-void Form1Window::dragMoveEvent(QDragMoveEvent* event) {
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-}
+}  // namespace
+
+void Form1Window::dragEnterEvent(QDragEnterEvent* event) { TakenAsCopy(event); }
+
+void Form1Window::dragMoveEvent(QDragMoveEvent* event) { TakenAsCopy(event); }
 
 void Form1Window::dropEvent(QDropEvent* event) {
+  if (!TakenAsCopy(event)) return;
   Dropped dropped;
   const QMimeData* data = event->mimeData();
   for (const QUrl& url : data->urls()) {
@@ -457,10 +464,7 @@ void Form1Window::dropEvent(QDropEvent* event) {
     }
   }
   if (data->urls().isEmpty() && !data->text().isEmpty()) dropped.others.push_back(data->text().toStdString());
-  if (TakesDrop(dropped)) {
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-  } else {
+  if (!TakesDrop(dropped)) {
     event->setDropAction(Qt::IgnoreAction);  // refused: the source keeps what was dragged
     event->ignore();
   }
