@@ -286,10 +286,7 @@ TEST(QtDialogsTest, OnceTheProgramEndsNoQuestionIsAnsweredAndNothingMoreIsWritte
   Type(form4->findChild<QLineEdit*>("Text3"), "&H700000");
   Type(form4->findChild<QLineEdit*>("Text12"), "&H700200");
   const ByteOracle oracle(fixture.path());
-  QTimer::singleShot(0, [&] {
-    dialogs.ProgramEnding();
-    QApplication::activeModalWidget()->close();
-  });
+  QTimer::singleShot(0, [&] { dialogs.ProgramEnding(); QApplication::activeModalWidget()->close(); });
   testing::internal::CaptureStderr();
   QTest::mouseClick(form4->findChild<QPushButton*>("Command1"), Qt::LeftButton);
   EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr(QtDialogs::kProgramEnding));
