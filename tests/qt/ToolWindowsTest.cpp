@@ -15,6 +15,7 @@
 
 #include "editors/NameEditors.h"
 #include "qt/QtDialogs.h"
+#include "rom/Failure.h"
 #include "shell/OpenRom.h"
 #include "support/ShellTest.h"
 #include "support/Tests.h"
