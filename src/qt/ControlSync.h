@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QShortcut>
 #include <QStyle>
 #include <QStyleOptionFrame>
@@ -67,10 +68,12 @@ inline void Sync(QLabel* widget, const Label& label) {
 // button, as a click does; the button checks the offsets and asks before it writes over data.
 // In every other text field Enter moves the focus on, as Tab does, and runs nothing: Enter
 // pressed by habit after a number loads, saves and inserts nothing. The text of a list that
-// takes typing is left to the list (its Enter picks the row typed, or nothing), and a list, a
-// check box and a button keep their own Enter: a list's presses nothing, a button's presses it.
+// takes typing is left to the list (its Enter picks the row typed, or nothing), and a list and
+// a check box keep their own Enter, which presses nothing. Enter on a button that has the
+// focus presses it, in every window (Qt gives that to the buttons of a dialog only).
 inline void WireEnter(QWidget* window, QAbstractButton* writer = nullptr,
                       std::initializer_list<QLineEdit*> offsets = {}) {
+  for (QPushButton* button : window->findChildren<QPushButton*>()) button->setAutoDefault(true);
   for (QLineEdit* field : window->findChildren<QLineEdit*>()) {
     if (qobject_cast<QComboBox*>(field->parentWidget()) != nullptr) continue;
     if (writer != nullptr && std::find(offsets.begin(), offsets.end(), field) != offsets.end()) {

@@ -21,6 +21,7 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QStackedLayout>
+#include <QStyle>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -206,6 +207,9 @@ void Form1Window::BuildWidgets() {
   fields->setHorizontalSpacing(8);
   fields->addWidget(OnePlace(this, {Combo3_, Combo4_, Combo5_}), 0, 0, 1, 4);
   auto* loadSave = new QHBoxLayout;
+  // A row inside a grid whose two spacings differ gets none of its own: the style's, as between
+  // any two buttons of a row.
+  loadSave->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
   loadSave->addWidget(Command10_);
   loadSave->addWidget(Command9_);
   fields->addLayout(loadSave, 0, 4);
@@ -430,19 +434,26 @@ bool Form1Window::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
+namespace {
+
 // Every drag is taken as a copy, so that what cannot be opened reaches the drop and is refused
-// with a sentence, and the program it comes from never deletes what it gave.
-void Form1Window::dragEnterEvent(QDragEnterEvent* event) {
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
+// with a sentence, and the program it comes from never deletes what it gave. A drag that offers
+// no copy (only a move) is refused at once: asked for a copy, Qt would answer with the move.
+bool TakenAsCopy(QDropEvent* event) {
+  const bool copy = event->possibleActions().testFlag(Qt::CopyAction);
+  event->setDropAction(copy ? Qt::CopyAction : Qt::IgnoreAction);
+  event->setAccepted(copy);
+  return copy;
 }
 
-void Form1Window::dragMoveEvent(QDragMoveEvent* event) {
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-}
+}  // namespace
+
+void Form1Window::dragEnterEvent(QDragEnterEvent* event) { TakenAsCopy(event); }
+
+void Form1Window::dragMoveEvent(QDragMoveEvent* event) { TakenAsCopy(event); }
 
 void Form1Window::dropEvent(QDropEvent* event) {
+  if (!TakenAsCopy(event)) return;
   Dropped dropped;
   const QMimeData* data = event->mimeData();
   for (const QUrl& url : data->urls()) {
@@ -453,10 +464,7 @@ void Form1Window::dropEvent(QDropEvent* event) {
     }
   }
   if (data->urls().isEmpty() && !data->text().isEmpty()) dropped.others.push_back(data->text().toStdString());
-  if (TakesDrop(dropped)) {
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-  } else {
+  if (!TakesDrop(dropped)) {
     event->setDropAction(Qt::IgnoreAction);  // refused: the source keeps what was dragged
     event->ignore();
   }

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include "editors/Form2.h"
 #include "qt/Form1Window.h"
@@ -40,9 +41,9 @@ Form2Window::Form2Window(QtShell& shell, Form2& form)
     grid->addWidget(label, row, 0);
     grid->addWidget(list, row++, 1);
   }
-  for (QPushButton* button : {Command1_, Command3_, Command2_}) button->setAutoDefault(true);
   Command1_->setDefault(true);
   auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));  // the grid has none to give
   buttons->addStretch();
   buttons->addWidget(Command1_);
   buttons->addWidget(Command3_);
@@ -64,6 +65,7 @@ Form2Window::Form2Window(QtShell& shell, Form2& form)
   });
   connect(Command2_, &QPushButton::clicked, this, [this] { shell_.Run([this] { PressDone(shell_.dialogs()); }); });
   CloseOnEscape(this, Command2_);
+  WireEnter(this);  // Enter on a button presses it
   Refresh();
 }
 

@@ -46,7 +46,6 @@ Form5Window::Form5Window(QtShell& shell, Form5& form)
   FitNumber(Text12_, NumberText::Offset);
   Combo3_->setFixedWidth(Text3_->minimumWidth());  // the level list as wide as the offsets below it
   Command1_->setDefault(true);
-  for (QPushButton* find : {Command2_, Command3_}) find->setAutoDefault(true);  // Enter on it presses it
 
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(14, 14, 14, 14);

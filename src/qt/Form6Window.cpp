@@ -131,7 +131,6 @@ void Form6Window::BuildWidgets() {
   for (QLineEdit* field : {Text2_, Text3_}) FitNumber(field, NumberText::Offset);
   Command6_ = Named(new QPushButton(this), "Command6");
   Command7_ = Named(new QPushButton(this), "Command7");
-  for (QPushButton* find : {Command6_, Command7_}) find->setAutoDefault(true);  // Enter on it presses it
   for (QLineEdit* field : {postionleft_, postiontop_, msgboxleft_, msgboxtop_, brailleleft_, brailletop_}) {
     FitNumber(field, NumberText::Byte);
   }

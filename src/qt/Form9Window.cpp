@@ -36,7 +36,6 @@ Form9Window::Form9Window(QtShell& shell, Form9& form)
   Label1_->setBuddy(Text1_);
   Label2_->setBuddy(Text2_);
   Command1_->setDefault(true);
-  Command1_->setAutoDefault(true);
 
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(14, 14, 14, 14);

@@ -11,6 +11,10 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <iostream>
+
+#include "rom/Failure.h"
+
 namespace tessarine {
 namespace {
 
@@ -47,7 +51,16 @@ QString QtFileFilter(std::string_view filter) {
   return filters.join(";;");
 }
 
+void QtDialogs::NoAnswerOnceEnding() const {
+  if (ending_) throw Failure(kProgramEnding);
+}
+
 MessageAnswer QtDialogs::Message(std::string_view text, MessageButtons buttons, std::string_view title) {
+  if (ending_ && buttons == MessageButtons::Ok) {
+    std::cerr << title << ": " << text << '\n';
+    return MessageAnswer::Ok;
+  }
+  NoAnswerOnceEnding();
   QMessageBox box(Owner());
   box.setWindowTitle(Q(title));
   box.setText(Q(text));
@@ -55,7 +68,9 @@ MessageAnswer QtDialogs::Message(std::string_view text, MessageButtons buttons, 
     // A question before a write: Enter pressed by habit answers No, and nothing is written.
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.setDefaultButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
+    const bool yes = box.exec() == QMessageBox::Yes;
+    NoAnswerOnceEnding();
+    return yes ? MessageAnswer::Yes : MessageAnswer::No;
   }
   box.setStandardButtons(QMessageBox::Ok);
   box.exec();
@@ -64,21 +79,25 @@ MessageAnswer QtDialogs::Message(std::string_view text, MessageButtons buttons, 
 
 std::optional<std::string> QtDialogs::Input(std::string_view prompt, std::string_view title,
                                             std::string_view initial) {
+  NoAnswerOnceEnding();
   bool ok = false;
   // The box's label is the buddy of its field, so a single "&" would mark a shortcut key
   // and not show: "Enter &H and the Hex ..." would read "Enter H and the Hex ...".
   const QString label = Q(prompt).replace(u'&', QStringLiteral("&&"));
   const QString answer = QInputDialog::getText(Owner(), Q(title), label, QLineEdit::Normal, Q(initial), &ok);
+  NoAnswerOnceEnding();  // a box that the quit closed says "cancelled", which nobody said
   if (!ok) return std::nullopt;
   return answer.toStdString();
 }
 
 std::string QtDialogs::OpenFile(std::string_view title, std::string_view filter) {
   // Qt's own dialog everywhere: a desktop's dialog would keep the file among its recent ones.
+  NoAnswerOnceEnding();
   const auto folder = folders_.find(filter);
   const QString startIn = folder == folders_.end() ? QString() : folder->second;
   const QString path = QFileDialog::getOpenFileName(Owner(), Q(title), startIn, QtFileFilter(filter), nullptr,
                                                     QFileDialog::DontUseNativeDialog);
+  NoAnswerOnceEnding();
   if (!path.isEmpty()) folders_[std::string(filter)] = QFileInfo(path).absolutePath();
   return path.toStdString();
 }

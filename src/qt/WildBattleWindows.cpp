@@ -48,7 +48,6 @@ WildBattleWindow::WildBattleWindow(QtShell& shell, WildBattleForm& form, const c
   Combo3_->setFixedWidth(Text3_->minimumWidth());  // the level list as wide as the offset below it
   Check1_ = Named(new QCheckBox(this), "Check1");
   Command4_ = Named(new QPushButton(this), "Command4");
-  Command4_->setAutoDefault(true);  // Enter on it presses it, not Insert
 
   grid_->setContentsMargins(14, 14, 14, 14);
   grid_->setHorizontalSpacing(8);
@@ -134,7 +133,6 @@ Form4Window::Form4Window(QtShell& shell, Form4& form)
       Label7_(Named(new QLabel(this), "Label7")),
       Command5_(Named(new QPushButton(this), "Command5")) {
   FitNumber(Text12_, NumberText::Offset);
-  Command5_->setAutoDefault(true);
   Label7_->setWordWrap(true);
   grid_->addWidget(Label6_, 5, 0);
   grid_->addWidget(Text12_, 5, 1);

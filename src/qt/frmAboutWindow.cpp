@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "qt/ControlSync.h"
 #include "qt/Form1Window.h"
 #include "qt/QtArtwork.h"
 #include "qt/QtShell.h"
@@ -57,6 +58,7 @@ frmAboutWindow::frmAboutWindow(QtShell& shell, frmAbout& form)
   grid->setSizeConstraint(QLayout::SetFixedSize);
 
   connect(cmdOK_, &QPushButton::clicked, this, &QDialog::close);
+  WireEnter(this);
   Refresh();
 }
 

@@ -15,6 +15,7 @@
 
 #include "editors/NameEditors.h"
 #include "qt/QtDialogs.h"
+#include "rom/Failure.h"
 #include "shell/OpenRom.h"
 #include "support/ShellTest.h"
 #include "support/Tests.h"
@@ -139,11 +140,24 @@ void ExpectWhole(QWidget* window, const char* field, int digits) {
   }
 }
 
+// The buttons of `window` that Enter on them does not press (their actions kept from running).
+std::string DeafToEnter(QWidget* window) {
+  std::string deaf;
+  for (QPushButton* button : window->findChildren<QPushButton*>()) {
+    const QSignalBlocker quiet(button);
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(button, &enter);
+    if (button->isEnabled() && !enter.isAccepted()) deaf += button->objectName().toStdString() + " ";
+  }
+  return deaf;
+}
+
 // In a large desktop font, each window's number fields show their longest texts whole, and each
 // window keeps the size of what it holds (none can be resized). Each tool
 // opens with its first field in focus, Tab walks its fields as they are read (Find Free Space
 // after its field, the box before Insert), Enter in a field that is no offset moves on as Tab
-// does (it loads, saves and inserts nothing), and Esc closes it; none of this writes.
+// does (it loads, saves and inserts nothing), Enter on a button presses it, and Esc closes it;
+// none of this writes.
 TEST(ToolKeysTest, FieldsFitInALargeFontTabAndEnterWalkThemInOrderAndEscClosesWithoutWriting) {
   const QFont font = QApplication::font();
   QApplication::setFont(QFont(font.family(), 20));
@@ -160,6 +174,7 @@ TEST(ToolKeysTest, FieldsFitInALargeFontTabAndEnterWalkThemInOrderAndEscClosesWi
   }
   QWidget* main = shell.Window(WindowName::Form1);
   EXPECT_EQ(main->minimumSize(), main->maximumSize());
+  EXPECT_EQ(DeafToEnter(main), "");
   const struct {
     MenuEntry entry;
     WindowName name;
@@ -206,6 +221,7 @@ TEST(ToolKeysTest, FieldsFitInALargeFontTabAndEnterWalkThemInOrderAndEscClosesWi
       EXPECT_EQ(focus != nullptr ? focus->objectName().toStdString() : "", next) << field;
     }
     EXPECT_EQ(dialogs.messages.size(), told);
+    EXPECT_EQ(DeafToEnter(window), "");
     QTest::keyClick(window->focusWidget(), Qt::Key_Escape);
     QTest::qWait(0);
     EXPECT_EQ(shell.Window(row.name), nullptr);
@@ -256,6 +272,28 @@ TEST(QtDialogsTest, EnterInAYesNoQuestionAnswersNo) {
     if (QWidget* box = QApplication::activeModalWidget()) QTest::keyClick(box, Qt::Key_Return);
   });
   EXPECT_EQ(QtDialogs().Message("Insert?", MessageButtons::YesNo, kDefaultTitle), MessageAnswer::No);
+}
+
+// Once the program is ending, as when a quit closes the message box of an insert (a box that
+// says "cancelled"), no question is answered for the person: the action ends with nothing more
+// written than the script before the box, and tells so on standard error.
+TEST(QtDialogsTest, OnceTheProgramEndsNoQuestionIsAnsweredAndNothingMoreIsWritten) {
+  test::FixtureRom fixture = BuilderRom();
+  QtDialogs dialogs;
+  QtShell shell(dialogs);
+  shell.Run([&] { OpenDropped(shell.form1(), shell.rom(), shell.dialogs(), {{fixture.path()}, {}}); });
+  shell.ShowWindow(WindowName::Form4);  // the message is asked after the script is written
+  QWidget* form4 = shell.Window(WindowName::Form4);
+  Type(form4->findChild<QLineEdit*>("Text3"), "&H700000");
+  Type(form4->findChild<QLineEdit*>("Text12"), "&H700200");
+  const ByteOracle oracle(fixture.path());
+  QTimer::singleShot(0, [&] { dialogs.ProgramEnding(); QApplication::activeModalWidget()->close(); });
+  testing::internal::CaptureStderr();
+  QTest::mouseClick(form4->findChild<QPushButton*>("Command1"), Qt::LeftButton);
+  EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr(QtDialogs::kProgramEnding));
+  EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 20}}));
+  EXPECT_THROW(dialogs.Message("Write over them?", MessageButtons::YesNo, kDefaultTitle), Failure);
+  EXPECT_THROW(dialogs.OpenFile("Open", "Pokemon Advance rom|*.gba"), Failure);
 }
 
 // The ROM dialog starts in the folder of the last ROM chosen, in this run: Qt's own record of
