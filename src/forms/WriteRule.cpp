@@ -166,7 +166,13 @@ bool RomWrite::ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>
                                  std::to_string(notFree) + (notFree == 1 ? " of them is not FF" : " of them are not FF") +
                                  (written.empty() ? "" : ", among them " + JoinNames(written) + " written just now") +
                                  ". Write over them?";
-    if (dialogs.Message(question, MessageButtons::YesNo, "Not free space") != MessageAnswer::Yes) {
+    MessageAnswer answer = MessageAnswer::No;
+    try {
+      answer = dialogs.Message(question, MessageButtons::YesNo, "Not free space");
+    } catch (const Failure& failure) {  // a question that no one may answer ends the action here
+      throw Stopped(failure, alsoNotWritten);
+    }
+    if (answer != MessageAnswer::Yes) {
       if (written_ == 0) return false;
       throw Stopped(Failure("You chose not to write over the bytes that are not free space."), alsoNotWritten);
     }

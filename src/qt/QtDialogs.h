@@ -22,8 +22,7 @@ namespace tessarine {
 class QtDialogs : public Dialogs {
  public:
   static constexpr const char* kProgramEnding =
-      "The program is ending, so the question is not answered and nothing more is written; what the action wrote "
-      "before it stays written.";
+      "The program is ending, so the question is not answered and nothing more is written.";
 
   QtDialogs();
   // The program quits: every event loop returns, also those of the dialogs that stand.

@@ -41,7 +41,13 @@ std::optional<std::string> MessageForFreeSpace(const TextBox& field, std::string
 bool AskAndWriteMessage(RomWrite& write, Dialogs& dialogs, std::string_view title, std::string_view prompt,
                         WritePiece message, std::string& kept) {
   // One piece: a text that does not fit is refused whole, its end bytes with it.
-  message.bytes = MessageTextBytes(AskMessage(dialogs, title, prompt, kept).value_or(""));
+  std::optional<std::string> typed;
+  try {
+    typed = AskMessage(dialogs, title, prompt, kept);
+  } catch (const Failure& failure) {  // a question that no one may answer ends the action here
+    throw write.Stopped(failure);
+  }
+  message.bytes = MessageTextBytes(typed.value_or(""));
   write.Add(std::move(message));
   return write.CheckAskAndWrite(dialogs);
 }

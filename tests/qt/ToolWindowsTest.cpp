@@ -290,7 +290,8 @@ TEST(QtDialogsTest, OnceTheProgramEndsNoQuestionIsAnsweredAndNothingMoreIsWritte
   QTimer::singleShot(0, [&] { dialogs.ProgramEnding(); QApplication::activeModalWidget()->close(); });
   testing::internal::CaptureStderr();
   QTest::mouseClick(form4->findChild<QPushButton*>("Command1"), Qt::LeftButton);
-  EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr(QtDialogs::kProgramEnding));
+  EXPECT_THAT(testing::internal::GetCapturedStderr(),
+              HasSubstr(std::string(QtDialogs::kProgramEnding) + " Written before it stopped: 20 bytes at &H700000"));
   EXPECT_EQ(oracle.Changes(), (std::vector<ByteRange>{{kS, 20}}));
   EXPECT_THROW(dialogs.Message("Write over them?", MessageButtons::YesNo, kDefaultTitle), Failure);
   EXPECT_THROW(dialogs.OpenFile("Open", "Pokemon Advance rom|*.gba"), Failure);
