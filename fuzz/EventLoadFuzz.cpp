@@ -13,24 +13,18 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace tessarine;
-  struct Game {  // a game's fixture, open in a session of its own from the first input that picks it
-    test::FixtureRom fixture;
-    std::vector<test::FixtureEvent> events;
-    test::MainSession session;
-  };
-  static std::vector<std::unique_ptr<Game>> games(test::AllGames().size());
+  // A game's fixture, open in a session of its own from the first input that picks it.
+  static std::vector<std::unique_ptr<test::MainSession>> sessions(test::AllGames().size());
   fuzz::Input in{{data, size}};
-  const std::uint32_t which = in.Number(1) % games.size();
+  const std::uint32_t which = in.Number(1) % sessions.size();
   const GameIdentity& code = test::AllGames()[which];
-  if (!games[which]) {
-    games[which].reset(new Game{test::EventFixtureRom(code), test::FixtureEvents(code)});
-    games[which]->session.Open(games[which]->fixture.path());
-  }
-  Game& game = *games[which];
-  RomImage& rom = game.session.rom;
+  if (!sessions[which]) sessions[which] = std::make_unique<test::MainSession>(test::EventFixtureRom(code));
+  test::MainSession& game = *sessions[which];
+  RomImage& rom = game.rom;
+  const std::vector<test::FixtureEvent> events = test::FixtureEvents(code);
   const int index = static_cast<int>(in.Number(1) % 14);  // the lists hold 7, 6 and 13 entries
-  const bool listed = static_cast<std::size_t>(index) < game.events.size();
-  const RomOffset person = listed ? game.events[index].person : 0;
+  const bool listed = static_cast<std::size_t>(index) < events.size();
+  const RomOffset person = listed ? events[index].person : 0;
   const Bytes record = in.Block(listed ? PersonRecord::kSize : 0);
   const Bytes pointed = in.Block();
 
@@ -42,14 +36,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const bool placed = apart && rom.Holds(script, std::ssize(pointed));
   if (placed) rom.WriteBytes(static_cast<RomOffset>(script), pointed);
   try {
-    SelectEvent(game.session.form, rom, game.session.dialogs, index);
-    fuzz::Require(!listed || ParseWord(game.session.form.spritetxt.text) == read.sprite, "the record's sprite is shown");
-    fuzz::Require(!listed || ParseWord(game.session.form.flagtxt.text) == read.flag, "the record's flag is shown");
+    SelectEvent(game.form, rom, game.dialogs, index);
+    fuzz::Require(!listed || ParseWord(game.form.spritetxt.text) == read.sprite, "the record's sprite is shown");
+    fuzz::Require(!listed || ParseWord(game.form.flagtxt.text) == read.flag, "the record's flag is shown");
   } catch (const Failure& failure) {
     fuzz::Require(*failure.what() != '\0', "a failure has a sentence");
   }
-  game.session.dialogs.messages.clear();
-  const std::span<const std::uint8_t> fixture = game.fixture.image();
+  game.dialogs.messages.clear();
+  const std::span<const std::uint8_t> fixture = game.fixture->image();
   if (placed) rom.WriteBytes(static_cast<RomOffset>(script), fixture.subspan(script, pointed.size()));
   rom.WriteBytes(person, fixture.subspan(person, record.size()));
   return 0;

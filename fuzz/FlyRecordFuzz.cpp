@@ -42,8 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     WriteFlyPosition(rom, main, filled, index, x, y);
     Bytes after = inFile();
     fuzz::Require(after.size() == kFlyRecordSize, "a save is of a whole record");
-    after[4] = before[4];
-    after[6] = before[6];
+    std::tie(after[4], after[6]) = std::tie(before[4], before[6]);
     fuzz::Require(after == before, "a save changes only bytes 4 and 6");
   } catch (const Failure&) {
     fuzz::Require(inFile() == before, "a failed save changes nothing");

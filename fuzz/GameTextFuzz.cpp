@@ -1,6 +1,5 @@
-// The decoder and the three encoders on any bytes and any text (well-formed UTF-8 or not):
-// each encoder gives at most one byte a character, and the braille text's stop is found
-// without encoding exactly where encoding gives a stop cell.
+// The decoder and the three encoders on any bytes and any text (well-formed UTF-8 or not): each encoder gives at most
+// one byte a character, and the braille text's stop is found without encoding exactly where encoding gives a stop cell.
 #include <algorithm>
 
 #include "FuzzInput.h"

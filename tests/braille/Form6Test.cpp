@@ -8,6 +8,8 @@ namespace {
 
 using Fields = std::array<const char*, 6>;  // postionleft to brailletop
 constexpr Fields kBare = {"&H", "&H", "&H", "&H", "&H", "&H"}, kZero = {"&H0", "&H0", "&H0", "&H0", "&H0", "&H0"};
+constexpr TextBox Form6::*kFields[] = {&Form6::postionleft, &Form6::postiontop,  &Form6::msgboxleft,
+                                       &Form6::msgboxtop,   &Form6::brailleleft, &Form6::brailletop};
 
 // The inserter, opened on a ROM of 8 MiB of 0xFF. Where the tests write, a filler stands, so
 // that every byte written shows as a change.
@@ -22,67 +24,57 @@ struct Inserter : test::MainSession {
   void Insert() { PressInsert(form, MainSession::form, rom, dialogs); }
   void Load(Form6& into) { PressLoad(into, MainSession::form, rom); }
   void Type(const Fields& fields, const char* text, const char* braille, const char* script) {
-    TextBox Form6::*const boxes[] = {&Form6::postionleft, &Form6::postiontop, &Form6::msgboxleft,
-                                     &Form6::msgboxtop,   &Form6::brailleleft, &Form6::brailletop};
-    for (std::size_t i = 0; i < fields.size(); ++i) (form.*boxes[i]).text = fields[i];
+    for (std::size_t i = 0; i < fields.size(); ++i) (form.*kFields[i]).text = fields[i];
     SetText1(form, text);
-    form.Text2.text = braille;
-    form.Text3.text = script;
+    std::tie(form.Text2.text, form.Text3.text) = std::pair(braille, script);
   }
 };
 
-// The question ("Braille Inserted.", Yes or No; none to a window that may not write), then where all
-// is parsed and placed apart in the file the free-space question; nothing after them. The whole file
-// is compared before and after.
+// The question ("Braille Inserted.", Yes or No; none to a window that may not write), then where all is parsed and
+// placed apart in the file the free-space question; nothing after them. The whole file is compared before and after.
 TEST(Form6Test, InsertWritesTheRecordAndItsScriptOrNothing) {
   using enum MessageAnswer;
-  const struct {
-    const char* name;
-    Fields fields;
-    const char* text;
-    const char* braille;
-    const char* script;
-    std::deque<MessageAnswer> answers;  // to the question, then to the free-space question
-    test::WrittenRuns written;
-    const char* failure;
-    void (*before)(Inserter&) = nullptr;
-  } rows[] = {
+  // The row's name; the six fields, the text, the braille and script offsets; the answers to the question and to the
+  // free-space question; what is written; what is said; what happens before the insert.
+  using Row = std::tuple<const char*, Fields, const char*, const char*, const char*, std::deque<MessageAnswer>,
+                         test::WrittenRuns, const char*, void (*)(Inserter&)>;
+  const Row rows[] = {
       {"all zero, A", kZero, "A", "&H700000", "&H700100", {Yes, Yes},
-       {{0x700000, "00 00 00 00 00 00 01 FF 00"}, {0x700100, "6A 5A 78 00 00 70 08 02"}}, ""},
+       {{0x700000, "00 00 00 00 00 00 01 FF 00"}, {0x700100, "6A 5A 78 00 00 70 08 02"}}, "", nullptr},
       {"lower case is blank", {"1", "2", "3", "4", "5", "31"}, "Hi", "&H7A0000", "&H700000", {Yes, Yes},
-       {{0x700000, "6A 5A 78 00 00 7A 08 02"}, {0x7A0000, "01 02 03 04 05 1F 0D 00 FF 00"}}, ""},
+       {{0x700000, "6A 5A 78 00 00 7A 08 02"}, {0x7A0000, "01 02 03 04 05 1F 0D 00 FF 00"}}, "", nullptr},
       {"line break and escape", kZero, "A\r\nB\\h02C'", "&H700000", "&H700100", {Yes, Yes},
-       {{0x700000, "00 00 00 00 00 00 01 FE 05 02 03 04 FF 00"}, {0x700100, "6A 5A 78 00 00 70 08 02"}}, ""},
-      {"answered No", kZero, "A", "&H700000", "&H700100", {No}, {}, ""},
-      {"No to writing over what is not free space", kZero, "A", "&H700000", "&H700100", {Yes, No}, {}, ""},
-      {"fresh window", kBare, "A", "&H700000", "&H700100", {Yes}, {}, "Postion.Left: \"&H\" is not a byte."},
-      {"bad script offset", kZero, "A", "&H700000", "&Hxyz", {Yes}, {}, "Script Offset: \"&Hxyz\""},
+       {{0x700000, "00 00 00 00 00 00 01 FE 05 02 03 04 FF 00"}, {0x700100, "6A 5A 78 00 00 70 08 02"}}, "", nullptr},
+      {"answered No", kZero, "A", "&H700000", "&H700100", {No}, {}, "", nullptr},
+      {"No to writing over what is not free space", kZero, "A", "&H700000", "&H700100", {Yes, No}, {}, "", nullptr},
+      {"fresh window", kBare, "A", "&H700000", "&H700100", {Yes}, {}, "Postion.Left: \"&H\" is not a byte.", nullptr},
+      {"bad script offset", kZero, "A", "&H700000", "&Hxyz", {Yes}, {}, "Script Offset: \"&Hxyz\"", nullptr},
       {"no pointer", kZero, "A", "&H78000000", "&H700100", {Yes}, {},
-       "Braille Offset: The offset &H78000000 cannot be a pointer"},
+       "Braille Offset: The offset &H78000000 cannot be a pointer", nullptr},
       {"record past the end", kZero, "A", "&H7FFFF8", "&H700100", {Yes}, {},
-       "Braille Offset: \"&H7FFFF8\": the braille record, 9 bytes from &H7FFFF8, would run past the end"},
+       "Braille Offset: \"&H7FFFF8\": the braille record, 9 bytes from &H7FFFF8, would run past the end", nullptr},
       {"script before the start", kZero, "A", "&H700000", "&HFFFFFFF0", {Yes}, {},
-       "Script Offset: \"&HFFFFFFF0\" lies before the start of the ROM."},
+       "Script Offset: \"&HFFFFFFF0\" lies before the start of the ROM.", nullptr},
       {"script offset left at its start", kZero, "HELLO", "&H700000", "&H000000", {Yes}, {},
-       "Script Offset: \"&H000000\" lies inside the cartridge header, &H0 to &HBF, and would write over it."},
-      {"script over its own record", kZero, "A", "&H700000", "&H700004", {Yes}, {}, "would share bytes"},
+       "Script Offset: \"&H000000\" lies inside the cartridge header, &H0 to &HBF, and would write over it.", nullptr},
+      {"script over its own record", kZero, "A", "&H700000", "&H700004", {Yes}, {}, "would share bytes", nullptr},
       {"window of the ROM opened before: no question", kZero, "A", "&H700000", "&H700100", {}, {},
        "This window was filled before the last Open ROM", [](Inserter& i) { i.Open(i.fixture->path()); }},
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.name);
+  for (const auto& [name, fields, text, braille, script, answers, written, says, before] : rows) {
+    SCOPED_TRACE(name);
     Inserter inserter;
-    inserter.Type(row.fields, row.text, row.braille, row.script);
-    if (row.before) row.before(inserter);
+    inserter.Type(fields, text, braille, script);
+    if (before) before(inserter);
     inserter.dialogs.messages.clear();
-    inserter.dialogs.messageAnswers = row.answers;
+    inserter.dialogs.messageAnswers = answers;
     const ByteOracle oracle(inserter.fixture->path());
     const std::string failure = FailureOf([&] { inserter.Insert(); });
-    EXPECT_THAT(failure, AllOf(HasSubstr(row.failure), HasSubstr(*row.failure ? "Nothing was written." : "")));
-    EXPECT_EQ(failure.empty(), *row.failure == '\0');
-    EXPECT_EQ(oracle.Written(), row.written);
+    EXPECT_THAT(failure, AllOf(HasSubstr(says), HasSubstr(*says ? "Nothing was written." : "")));
+    EXPECT_EQ(failure.empty(), *says == '\0');
+    EXPECT_EQ(oracle.Written(), written);
     const auto& asked = inserter.dialogs.messages;
-    ASSERT_EQ(asked.size(), row.answers.size());
+    ASSERT_EQ(asked.size(), answers.size());
     if (asked.empty()) continue;
     EXPECT_EQ(asked[0].title + ": " + asked[0].text, "Braille Inserted.: Are you sure that you wan't to insert?");
     EXPECT_EQ(asked.back().buttons, MessageButtons::YesNo);
@@ -103,23 +95,18 @@ TEST(Form6Test, FindFreeSpaceFindsRoomForTheRecordAndForTheScriptApart) {
   EXPECT_TRUE(inserter.dialogs.messages.empty());
 }
 
-// What the window shows, in one line: the six fields, [the text], the frame, the text's corner
-// and the preview's text.
+// What the window shows, in one line: the six fields, [the text], the frame, the text's corner and the preview's text.
 std::string Shown(const Form6& f) {
   std::string line;
-  for (const TextBox* box :
-       {&f.postionleft, &f.postiontop, &f.msgboxleft, &f.msgboxtop, &f.brailleleft, &f.brailletop}) {
-    line += box->text + " ";
-  }
+  for (TextBox Form6::*field : kFields) line += (f.*field).text + " ";
   const auto at = [](int x, int y, char between) { return std::to_string(x) + between + std::to_string(y); };
   return line + "[" + f.Text1.text + "] frame " + at(f.Shape1.Left, f.Shape1.Top, ',') + " " +
          at(f.Shape1.Width, f.Shape1.Height, 'x') + " text " + at(f.Label1.Left, f.Label1.Top, ',') + " [" +
          f.Label1.caption + "]";
 }
 
-// Load reads the record into the fields and applies them; the cell typed "'" reads as ",", and
-// what Insert wrote loads back in capitals (31 units put the frame beyond the preview, so it stays
-// whole). A refused offset loads nothing.
+// Load reads the record into the fields and applies them; the cell typed "'" reads as ",", and what Insert wrote loads
+// back in capitals (31 units put the frame beyond the preview, so it stays whole). A refused offset loads nothing.
 TEST(Form6Test, LoadReadsTheRecordIntoTheFieldsAndApplies) {
   const std::pair<const char*, const char*> rows[] = {
       {"05 06 07 08 09 0A 0D 09 15 15 19 FF 00",
@@ -152,10 +139,7 @@ TEST(Form6Test, LoadReadsTheRecordIntoTheFieldsAndApplies) {
 }
 
 TEST(Form6Test, PreviewLayoutStopsAtTheFirstNegativeSide) {
-  const struct {
-    Fields fields;
-    PreviewPlacement placed;
-  } rows[] = {
+  const std::pair<Fields, PreviewPlacement> rows[] = {
       {kBare, {240, 0, 159, 0, 0, 0}},
       {{"1", "2", "3", "4", "5", "6"}, {229, 8, 139, 16, 40, 48}},
       {{"&H1E", "&H13", "0", "7", "&H1F", "-1"}, {0, 240, 0, 152, 248, -8}},
@@ -164,9 +148,8 @@ TEST(Form6Test, PreviewLayoutStopsAtTheFirstNegativeSide) {
       {{"0", "0", "241", "0", "1", "1"}, {240, 0, 159, 0}},
       {{"&H10000000", "0", "0", "0", "0", "0"}, {}},  // beyond 32 bits
   };
-  for (const auto& row : rows) {
-    const Fields& f = row.fields;
-    EXPECT_EQ(PreviewLayout(f[0], f[1], f[2], f[3], f[4], f[5]), row.placed) << f[0] << " " << f[1] << " " << f[3];
+  for (const auto& [f, placed] : rows) {
+    EXPECT_EQ(PreviewLayout(f[0], f[1], f[2], f[3], f[4], f[5]), placed) << f[0] << " " << f[1] << " " << f[3];
   }
 
   Form6 form;  // Apply moves only what the layout reaches; Restore never moves the text

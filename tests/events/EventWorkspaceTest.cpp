@@ -7,7 +7,6 @@
 namespace tessarine {
 namespace {
 
-// A session on a fixture ROM of the game's events, changed by `prepare` before it opens.
 MainSession On(const GameIdentity& game, void (*prepare)(FixtureRom&) = nullptr) {
   FixtureRom fixture = test::EventFixtureRom(game);
   if (prepare) prepare(fixture);
@@ -139,19 +138,12 @@ void Lay(FixtureRom& f, std::uint32_t person, std::uint32_t at, const Bytes& scr
   f.PutLong(person + 16, at + 0x08000000).PutBytes(at, script);
 }
 
-// What a save writes, and what it says. A word field that is no word or no species number
-// stops the save at that word; a word whose place in the ROM holds no species number now is
-// left as it is (a cry kept a byte or two behind its place leaves opcodes there, and a word
-// may run past the end of the file).
+// What a save writes, and what it says. A word field that is no word or no species number stops the save at that word;
+// a word whose place in the ROM holds no species number now is left as it is (a cry kept a byte or two behind its place
+// leaves opcodes there, and a word may run past the end of the file).
 TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItLeft) {
-  struct Row {
-    const char* code;
-    int event;
-    void (*prepare)(FixtureRom&);
-    void (*edit)(MainSession&);
-    test::WrittenRuns written;
-    std::vector<std::string> says;
-  };
+  using Row = std::tuple<const char*, int, void (*)(FixtureRom&), void (*)(MainSession&), test::WrittenRuns,
+                         std::vector<std::string>>;
   const auto pick = [](MainSession& s) { SetCombo1Selection(s.form, 0xAB); };
   const std::string tail = ", and writing a species there would break the event's script. ";
   const Row rows[] = {
@@ -202,18 +194,18 @@ TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItL
        {"Script: \"&HFFFFF7\": the Cry word, 2 bytes from &HFFFFFF, would run past the end of the ROM, which is "
         "&H1000000 bytes long. Nothing was written."}},
   };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(std::string(row.code) + " " + std::to_string(row.event) + (row.says.empty() ? "" : row.says[0]));
-    MainSession s = On({row.code, 0}, row.prepare);
-    s.PickEvent(row.event);
+  for (const auto& [code, event, prepare, edit, written, says] : rows) {
+    SCOPED_TRACE(std::string(code) + " " + std::to_string(event) + (says.empty() ? "" : says[0]));
+    MainSession s = On({code, 0}, prepare);
+    s.PickEvent(event);
     SetCombo1Selection(s.form, 0x33);
     const ByteOracle oracle(s.fixture->path());
-    row.edit(s);
+    edit(s);
     std::string said = s.SaveFailure();
     for (const std::string& message : s.dialogs.MessageTexts()) said += message;
-    for (const std::string& part : row.says) EXPECT_THAT(said, HasSubstr(part));
-    EXPECT_EQ(said.empty(), row.says.empty()) << said;
-    EXPECT_EQ(oracle.Written(), row.written);
+    for (const std::string& part : says) EXPECT_THAT(said, HasSubstr(part));
+    EXPECT_EQ(said.empty(), says.empty()) << said;
+    EXPECT_EQ(oracle.Written(), written);
   }
 }
 
@@ -221,9 +213,7 @@ TEST(EventWorkspaceTest, ASaveWritesWhatTheFieldsSayAndNothingElseAndSaysWhatItL
 // save keeps the byte as it was read.
 TEST(EventWorkspaceTest, MovementTypesFollowTheBehaviourByteAndASaveKeepsIt) {
   for (const auto& [behaviour, listRow] : {std::pair{0x00, 0}, {0x0A, 10}, {0x0B, 11}, {0x0C, 3}, {0x51, 3}}) {
-    FixtureRom fixture = test::EventFixtureRom("AXVE");
-    fixture.PutByte(0x38EE50 + 9, static_cast<std::uint8_t>(behaviour));
-    MainSession s(std::move(fixture));
+    MainSession s(std::move(test::EventFixtureRom("AXVE").PutByte(0x38EE50 + 9, static_cast<std::uint8_t>(behaviour))));
     SetCombo2Selection(s.form, 3);
     s.PickEvent(1);
     EXPECT_EQ(Fields(s.form)[1] + Fields(s.form)[2], ToHexText(std::uint8_t(behaviour)) + std::to_string(listRow));

@@ -55,8 +55,7 @@ TEST(Form8Test, TheWindowOpensByTheGameCode) {
     Form8 form;
     ScriptedDialogs dialogs;
     Form1 main;
-    main.headtxt = game.code;
-    main.revision = game.revision;
+    std::tie(main.headtxt, main.revision) = std::pair(game.code, game.revision);
     LoadForm8(form, main, dialogs);
     EXPECT_EQ(std::pair(form.kanto.visible, form.hoenn.visible), std::pair(kanto, !kanto));
     const std::vector<std::string>& rows = (kanto ? form.kanto : form.hoenn).rows;
@@ -64,10 +63,9 @@ TEST(Form8Test, TheWindowOpensByTheGameCode) {
     EXPECT_EQ(form.Picture2.picture, picture);
     EXPECT_EQ(form.Text1.text + " " + std::to_string(form.HScroll1.Max), across);
     EXPECT_EQ(form.Text2.text + " " + std::to_string(form.VScroll1.Max), "&H14 10");
-    for (const bool control : {form.hoenn.enabled, form.loadbutton.enabled, form.savebutton.enabled,
-                               form.XXt.enabled, form.YYt.enabled}) {
-      EXPECT_EQ(control, enabled);
-    }
+    EXPECT_THAT((std::array{form.hoenn.enabled, form.loadbutton.enabled, form.savebutton.enabled, form.XXt.enabled,
+                            form.YYt.enabled}),
+                ::testing::Each(enabled));
     EXPECT_FALSE(form.Image1.visible || form.Shape2.visible);
     const std::vector<std::string> refused = {"Unsupported Rom. Please Load a Different Rom."};
     EXPECT_EQ(dialogs.MessageTexts(), enabled ? std::vector<std::string>{} : refused);
@@ -102,11 +100,8 @@ TEST_F(Wingfall, LoadRightAfterOpeningTakesRecord0AndAPickLoadsAtOnce) {
 // A save parses X and then Y before it writes, changes bytes 4 and 6 at most and shows what the
 // ROM now holds; a text that is no byte writes nothing, says no "Saved" and keeps what was typed.
 TEST_F(Wingfall, SaveWritesTheTypedTileAndShowsWhatTheRomNowHoldsOrNothing) {
-  const struct {
-    const char *x, *y;
-    test::WrittenRuns written;
-    const char* shown;  // the landing after the save; when nothing changed, part of the sentence
-  } rows[] = {
+  // X, Y; what the save wrote; the landing after the save, or when nothing changed, part of the sentence
+  const std::tuple<const char*, const char*, test::WrittenRuns, const char*> rows[] = {
       {"&H00", "&H00", {{kFirst + 4, "00"}, {kFirst + 6, "00"}}, "B:1A L:0 &H0 &H0 at 0,0"},  // the start texts
       {"&H1F", "&H20", {{kFirst + 4, "1F"}, {kFirst + 6, "20"}}, "B:1A L:0 &H1F &H20 at 496,512"},
       {"31", "7", {{kFirst + 4, "1F"}}, "B:1A L:0 &H1F &H7 at 496,112"},
@@ -114,23 +109,22 @@ TEST_F(Wingfall, SaveWritesTheTypedTileAndShowsWhatTheRomNowHoldsOrNothing) {
       {"&H100", "&H20", {}, "X: \"&H100\" is not a byte. Type a number"},
       {"&H1F", "abc", {}, "Y: \"abc\" is not a byte. Type a number"},
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(std::string(row.x) + " / " + row.y);
+  for (const auto& [x, y, written, shown] : rows) {
+    SCOPED_TRACE(std::string(x) + " / " + y);
     s.rom.WriteBytes(kFirst + 4, Bytes{0x05, 0x66, 0x07});
     const ByteOracle oracle(s.fixture->path());
     s.dialogs.messages.clear();
-    form.XXt.text = row.x;
-    form.YYt.text = row.y;
+    std::tie(form.XXt.text, form.YYt.text) = std::pair(x, y);
     const std::string failure = FailureOf([&] { PressSavebutton(form, s.rom, s.form, s.dialogs); });
-    EXPECT_EQ(oracle.Written(), row.written);
-    if (row.written.empty()) {
-      EXPECT_THAT(failure, AllOf(HasSubstr(row.shown), HasSubstr("Nothing was written.")));
-      EXPECT_EQ(form.XXt.text + form.YYt.text, std::string(row.x) + row.y);
+    EXPECT_EQ(oracle.Written(), written);
+    if (written.empty()) {
+      EXPECT_THAT(failure, AllOf(HasSubstr(shown), HasSubstr("Nothing was written.")));
+      EXPECT_EQ(form.XXt.text + form.YYt.text, std::string(x) + y);
       EXPECT_THAT(s.dialogs.messages, IsEmpty());
     } else {
       EXPECT_EQ(failure, "");
       EXPECT_THAT(s.dialogs.MessageTexts(), ElementsAre("Saved"));
-      EXPECT_EQ(Landing(), row.shown);
+      EXPECT_EQ(Landing(), shown);
     }
   }
 }
@@ -178,8 +172,7 @@ TEST(MapViewTest, ABarMovesTheSurfaceSixteenPixelsAStepAndComesBackToALowerMax) 
     SCOPED_TRACE(value);
     SetScrollValue(form, bar, value);
     EXPECT_EQ((bar == H ? form.HScroll1 : form.VScroll1).Value, expected);
-    EXPECT_EQ(form.Picture2.Left, left);
-    EXPECT_EQ(form.Picture2.Top, top);
+    EXPECT_EQ(std::pair(form.Picture2.Left, form.Picture2.Top), std::pair(left, top));
   }
   SetMapSizeText(form, T1, "8");  // Max 4: the bar comes back, and the surface with it
   EXPECT_EQ(form.HScroll1.Value, 4);
@@ -236,8 +229,7 @@ TEST(MapViewTest, ANewPictureSetsTheMapSizeByTheFitRuleTheSameEachTime) {
   for (const auto& [surface, image, texts, width, height] : cases) {
     SCOPED_TRACE(std::to_string(image.width) + "x" + std::to_string(image.height));
     Form8 form = TwentyByTwenty();
-    form.Picture2.Width = surface.width;
-    form.Picture2.Height = surface.height;
+    std::tie(form.Picture2.Width, form.Picture2.Height) = std::pair(surface.width, surface.height);
     for (int time = 1; time <= 2; ++time) {
       ScriptedDialogs dialogs;
       dialogs.openFileAnswers.push_back("map.bmp");

@@ -18,10 +18,8 @@ std::optional<std::int32_t> Attempt(Parse parse, const char* text) {
 
 TEST(HexFieldTest, StrictParsesReadOrFailByTheWidthOfTheField) {
   constexpr std::nullopt_t no = std::nullopt;
-  const struct {
-    const char* text;
-    std::optional<std::int32_t> offset, word, byte;  // ParseOffset, ParseWord, ParseByte; nullopt: it fails
-  } rows[] = {
+  using Parsed = std::optional<std::int32_t>;  // nullopt: the parse fails
+  const std::tuple<const char*, Parsed, Parsed, Parsed> rows[] = {  // text; ParseOffset, ParseWord, ParseByte
       {"&H28", 40, 40, 40}, {"40", 40, 40, 40}, {"31", 31, 31, 31}, {"&HFF", 255, 255, 255}, {"&hff", 255, 255, 255},
       {"&H100", 256, 256, no}, {"&HFFFF", 65535, -1, no}, {"&H8000", 32768, -32768, no}, {"&H10000", 65536, no, no},
       {"&HF8000000", -134217728, no, no}, {"&HFFFFFFFF", -1, -1, no}, {"&HFFFF8000", -32768, -32768, no},
@@ -34,10 +32,10 @@ TEST(HexFieldTest, StrictParsesReadOrFailByTheWidthOfTheField) {
       {"&H", no, no, no}, {"abc", no, no, no}, {"12x", no, no, no}, {"&HXYZ", no, no, no}, {"0x10", no, no, no},
       {"1.5", no, no, no}, {"1e3", no, no, no}, {"&O17", no, no, no}, {"&H1 2", no, no, no}, {"-", no, no, no},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(Attempt(ParseOffset, row.text), row.offset) << "ParseOffset(\"" << row.text << "\")";
-    EXPECT_EQ(Attempt(ParseWord, row.text), row.word) << "ParseWord(\"" << row.text << "\")";
-    EXPECT_EQ(Attempt(ParseByte, row.text), row.byte) << "ParseByte(\"" << row.text << "\")";
+  for (const auto& [text, offset, word, byte] : rows) {
+    EXPECT_EQ(Attempt(ParseOffset, text), offset) << "ParseOffset(\"" << text << "\")";
+    EXPECT_EQ(Attempt(ParseWord, text), word) << "ParseWord(\"" << text << "\")";
+    EXPECT_EQ(Attempt(ParseByte, text), byte) << "ParseByte(\"" << text << "\")";
   }
   EXPECT_THAT(FailureOf([] { ParseWord("&H10000", "Flag"); }),
               AllOf(HasSubstr("Flag"), HasSubstr("\"&H10000\""), HasSubstr("not a word")));
@@ -78,8 +76,7 @@ TEST(FilePathTest, ARomUnderANameOutsideAsciiOpensUnderThatName) {
   const std::string folder = ToPathText(root) + "/Pokémon Ærø  two blanks", path = folder + "/ポケモン ß é.GBA";
   std::filesystem::create_directories(ToFilePath(folder));
   std::filesystem::copy_file(ToFilePath(fixture.path()), ToFilePath(path));
-  const auto listed = std::filesystem::directory_iterator(ToFilePath(folder))->path().filename();
-  EXPECT_EQ(listed.u16string(), u"ポケモン ß é.GBA");
+  EXPECT_EQ(std::filesystem::directory_iterator(ToFilePath(folder))->path().filename().u16string(), u"ポケモン ß é.GBA");
 
   RomImage rom;
   rom.Open(path);

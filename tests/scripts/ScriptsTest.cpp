@@ -33,8 +33,7 @@ const std::string kZeroHeader = Header({"0", "0", "0", "0", "0", "0"});
 TEST(ListScriptTest, ListsEachCommandAndBrailleCellByItsRules) {
   const std::string header56789A = Header({"5", "6", "7", "8", "9", "A"});
   struct Case {
-    std::string bytes;
-    std::string listing;
+    std::string bytes, listing;
     bool braille = false;
     std::size_t at = 0;            // where the bytes go
     const char* offset = nullptr;  // the text typed; else `at` in hexadecimal
@@ -164,12 +163,11 @@ struct Builder : test::MainSession {
   }
 };
 
-// Each builder's layout from the same fields, byte for byte over the whole file: the Parts' own
-// (the give-Pokemon pieces overlap as laid out: the body's last two bytes are the declined
-// branch's first two, the gaps keep their bytes, and the declined text shows ten bytes and then
-// the no-room text) and the game-ready ones, on the example battle and a second one (species
-// &H96, level 70, item &H8B, cry &HFFFF, message "A", typed over the lists' numbers), in a
-// Sapphire and a FireRed ROM. A message box closed writes FF 00 (own) or FF (game-ready).
+// Each builder's layout from the same fields, byte for byte over the whole file: the builders' own layouts (the
+// give-Pokemon pieces overlap as laid out: the body's last two bytes are the declined branch's first two, the gaps keep
+// their bytes, and the declined text shows ten bytes and then the no-room text) and the game-ready ones, on the example
+// battle and a second one (species &H96, level 70, item &H8B, cry &HFFFF, message "A", typed over the lists' numbers),
+// in a Sapphire and a FireRed ROM. A message box closed writes FF 00 (own) or FF (game-ready).
 TEST(ScriptBuildersTest, EachLayoutIsWrittenFromTheSameFields) {
   const std::string declined = "FD 01 00 E0 D9 DA E8 00 E8 DC D9 00 CA C9 C5 1B 00 BC BB C6 C6 00 EB DC D9 E6 D9 FE DD "
                                "E8 00 EB D5 E7 AD FF";
@@ -180,13 +178,9 @@ TEST(ScriptBuildersTest, EachLayoutIsWrittenFromTheSameFields) {
            "0D 80 53 0F 80 31 " + fanfare + " 32 79 " + battle + " 00 00 00 00 00 00 00 00 00 7D 01 " + species +
            " 6B 02 0F 00 55 00 70 08 09 04 6B 02 0F 00 79 00 70 08 09 04 6B 02 " + declined + " " + noRoom + " FF";
   };
-  const struct {
-    int form;
-    bool gameReady, fireRed, second;
-    test::WrittenRuns written;
-    std::optional<std::string> message = "AB";
-  } rows[] = {
-      {3, false, false, false, {{kS, "6A 5A B6 19 00 05 00 00 30 A1 19 00 02"}}},
+  // The form, "Game-ready script" ticked, a FireRed ROM, the second battle; what is written; the message typed
+  const std::tuple<int, bool, bool, bool, test::WrittenRuns, std::optional<std::string>> rows[] = {
+      {3, false, false, false, {{kS, "6A 5A B6 19 00 05 00 00 30 A1 19 00 02"}}, "AB"},
       {4, false, false, true,
        {{kS, "6A 5A 0F 00 00 7A 08 09 06 B6 96 00 46 8B 00 30 A1 FF FF 02"}, {kT, "BB FF 00"}}, "A"},
       {4, false, false, false, {{kS, "6A 5A 0F 00 00 7A 08 09 06 B6 19 00 05 8B 00 30 A1 19 00 02"}, {kT, "FF 00"}},
@@ -194,44 +188,44 @@ TEST(ScriptBuildersTest, EachLayoutIsWrittenFromTheSameFields) {
       {5, false, false, false, {{kS, "69 0F 00 00 7A 08 09 05 21 0D 80 00 00 06 01 4A 00 70 08 43 21 0D 80 06 00 06 01 5D 00 70 08 19 04 80 "
                 "0D 80 53 02 00 31 72 01 67 61 32 66 79 76 01 05 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 "
                 "00 00 00 7D 76 01 01 0F 0F 67 00 70 08 09 04 6B 02"}, {kS + 93, "0F 71 00 70 08 09 04 6B 02"},
-       {kS + 103, declined.substr(0, 29) + " " + noRoom}, {kT, "BB BC FF 00"}}},
-      {3, true, false, false, {{kS, "6A 5A B6 19 00 05 00 00 30 A1 19 00 02 00 C5 B7 6C 02"}}},
-      {3, true, true, true, {{kS, "6A 5A B6 96 00 46 8B 00 30 A1 FF FF 02 00 C5 B7 6C 02"}}},
+       {kS + 103, declined.substr(0, 29) + " " + noRoom}, {kT, "BB BC FF 00"}}, "AB"},
+      {3, true, false, false, {{kS, "6A 5A B6 19 00 05 00 00 30 A1 19 00 02 00 C5 B7 6C 02"}}, "AB"},
+      {3, true, true, true, {{kS, "6A 5A B6 96 00 46 8B 00 30 A1 FF FF 02 00 C5 B7 6C 02"}}, "AB"},
       {4, true, false, false,
-       {{kS, "6A 5A 0F 00 00 00 7A 08 09 04 B6 19 00 05 8B 00 30 A1 19 00 02 00 C5 B7 6C 02"}, {kT, "BB BC FF"}}},
+       {{kS, "6A 5A 0F 00 00 00 7A 08 09 04 B6 19 00 05 8B 00 30 A1 19 00 02 00 C5 B7 6C 02"}, {kT, "BB BC FF"}}, "AB"},
       {4, true, true, true,
        {{kS, "6A 5A 0F 00 00 00 7A 08 09 04 B6 96 00 46 8B 00 30 A1 FF FF 02 00 C5 B7 6C 02"}, {kT, "BB FF"}}, "A"},
-      {5, true, false, false, {{kS, give("72 01", "76 01 05 00 00", "76 01")}, {kT, "BB BC FF"}}},
+      {5, true, false, false, {{kS, give("72 01", "76 01 05 00 00", "76 01")}, {kT, "BB BC FF"}}, "AB"},
       {5, true, true, true, {{kS, give("01 01", "96 00 46 8B 00", "96 00")}, {kT, "BB FF"}}, "A"},
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.written[0].second);
-    Builder b(row.fireRed ? FixtureRom::FireRed() : FixtureRom::Sapphire());
-    b.form3.Check1.checked = b.form4.Check1.checked = b.form5.Check1.checked = row.gameReady;
-    if (row.second) {
+  for (const auto& [form, gameReady, fireRed, second, written, message] : rows) {
+    SCOPED_TRACE(written[0].second);
+    Builder b(fireRed ? FixtureRom::FireRed() : FixtureRom::Sapphire());
+    b.form3.Check1.checked = b.form4.Check1.checked = b.form5.Check1.checked = gameReady;
+    if (second) {
       for (TextBox* box : {&b.form3.pkmntxt, &b.form4.pkmntxt, &b.form5.pkmntxt}) box->text = "&H96";
       for (TextBox* box : {&b.form3.Text1, &b.form4.Text14, &b.form5.Text1}) box->text = "&H46";
       for (TextBox* box : {&b.form3.Text2, &b.form4.Text2, &b.form5.Text2}) box->text = "&H8B";
       b.form3.crytxt.text = b.form4.crytxt.text = "&HFFFF";
     }
-    b.dialogs.inputAnswers = {row.message};
+    b.dialogs.inputAnswers = {message};
     b.dialogs.messageAnswers = {MessageAnswer::Yes, MessageAnswer::Yes};  // over what is not free space
     const ByteOracle oracle(b.fixture->path());
-    b.Insert(row.form);
-    EXPECT_EQ(oracle.Written(), row.written);
-    const std::string prompt = row.form == 4 ? "Wild Pokemon Message: Type the Message you would like your Event "
-                                               "to have. [N] = Next Line"
-                                             : "Give Pokemon Message: Type the Message you would like your Event to "
-                                               "have. [N] = Next Line| Example: \\v\\h01 checked the POK\xC3\xA9 BALL.";
-    ASSERT_EQ(b.dialogs.inputs.size(), row.form == 3 ? 0u : 1u);
-    if (row.form > 3) {
+    b.Insert(form);
+    EXPECT_EQ(oracle.Written(), written);
+    const std::string prompt = form == 4 ? "Wild Pokemon Message: Type the Message you would like your Event to have. "
+                                           "[N] = Next Line"
+                                         : "Give Pokemon Message: Type the Message you would like your Event to have. "
+                                           "[N] = Next Line| Example: \\v\\h01 checked the POK\xC3\xA9 BALL.";
+    ASSERT_EQ(b.dialogs.inputs.size(), form == 3 ? 0u : 1u);
+    if (form > 3) {
       EXPECT_THAT(b.dialogs.inputs[0].title + ": " + b.dialogs.inputs[0].prompt, HasSubstr(prompt));
     }
     // The questions (game-ready: one, once all is checked), then "Inserted" from the wild battle forms.
     const std::vector<std::string> asked = b.dialogs.MessageTexts();
-    EXPECT_EQ(asked.size(), (row.gameReady || row.form == 3 ? 1u : 2u) + (row.form == 5 ? 0u : 1u));
-    EXPECT_EQ(asked.back() == "Inserted", row.form != 5);
-    EXPECT_THAT(b.dialogs.windowEvents, ElementsAre(ScriptedDialogs::WindowEvent{std::array{WindowName::Form3, WindowName::Form4, WindowName::Form5}[row.form - 3], false}));
+    EXPECT_EQ(asked.size(), (gameReady || form == 3 ? 1u : 2u) + (form == 5 ? 0u : 1u));
+    EXPECT_EQ(asked.back() == "Inserted", form != 5);
+    EXPECT_THAT(b.dialogs.windowEvents, ElementsAre(ScriptedDialogs::WindowEvent{std::array{WindowName::Form3, WindowName::Form4, WindowName::Form5}[form - 3], false}));
   }
   EXPECT_EQ(GameReadyGivePokemonPieces("e", 1, 2, 3, kS, kT, "Q")[0].bytes,  // Emerald plays Ruby's fanfare
             GameReadyGivePokemonPieces("rs", 1, 2, 3, kS, kT, "Q")[0].bytes);
@@ -241,81 +235,73 @@ TEST(ScriptBuildersTest, EachLayoutIsWrittenFromTheSameFields) {
 // six bytes of FF at the start of the script's place: what is asked, written and said.
 TEST(ScriptBuildersTest, NoToTheFreeSpaceQuestionWritesNothingOrSaysWhatWasWritten) {
   using enum MessageAnswer;
-  const struct {
-    const char* road;
-    int form;
-    bool gameReady;
-    std::deque<MessageAnswer> answers;
-    std::vector<std::string> asked;
-    std::vector<ByteRange> changes;
-    const char* failure = "";
-    std::function<void(Builder&)> set = {};
-    std::size_t inputs = 1;
-  } rows[] = {
+  // The road; the form, its script game-ready; the answers, the questions asked, the bytes changed and what is said;
+  // what is done before the insert, and how many input boxes are shown.
+  using Row = std::tuple<const char*, int, bool, std::deque<MessageAnswer>, std::vector<std::string>,
+                         std::vector<ByteRange>, const char*, std::function<void(Builder&)>, std::size_t>;
+  const Row rows[] = {
       {"game-ready, No", 3, true, {No},
        {"The 18 bytes at &H700000 are not free space: 12 of them are not FF. Write over them?"}, {}, "", {}, 0},
       {"game-ready, both places in one question", 4, true, {No},
        {"The 26 bytes at &H700000 and the 3 bytes at &H7A0000 are not free space: 23 of them are not FF. Write over "
-        "them?"}, {}},
+        "them?"}, {}, "", {}, 1},
       {"own layout, No to the message's place", 4, false, {Yes, No},
        {"The 20 bytes at &H700000 are not free space: 14 of them are not FF. Write over them?",
         "The 4 bytes at &H7A0000 are not free space: 4 of them are not FF. Write over them?"},
        {{kS, 20}},
        "You chose not to write over the bytes that are not free space. Written before it stopped: 20 bytes at "
-       "&H700000 (the script). Not written: 4 bytes at &H7A0000 (the message)."},
+       "&H700000 (the script). Not written: 4 bytes at &H7A0000 (the message).", {}, 1},
       {"own layout, a message past the end, checked once typed", 4, false, {Yes}, {"The 20 bytes at &H700000 are not "
        "free space: 14 of them are not FF. Write over them?"}, {{kS, 4}, {kS + 6, 14}},
        "Text Offset: \"&HFFFFFD\": the message, 4 bytes from &HFFFFFD, would run past the end of the ROM, which is "
        "&H1000000 bytes long. Written before it stopped: 20 bytes at &H700000 (the script). Not written: 4 bytes at "
-       "&HFFFFFD (the message).", [](Builder& b) { b.form4.Text12.text = "&HFFFFFD"; }},  // room for FF 00 only
+       "&HFFFFFD (the message).", [](Builder& b) { b.form4.Text12.text = "&HFFFFFD"; }, 1},  // room for FF 00 only
       {"own layout, a message over the script just written", 4, false, {Yes}, {"The 4 bytes at &H7000FE are not "
        "free space: 4 of them are not FF, among them 2 bytes of the script written just now. Write over them?"},
        {{kS + 0xFE, 2}, {kS + 0x101, 19}}, "",  // FF 00 over the script's first two bytes, where FF stood
-       [](Builder& b) { b.form4.Text3.text = "&H700100", b.form4.Text12.text = "&H7000FE"; }},
+       [](Builder& b) { b.form4.Text3.text = "&H700100", b.form4.Text12.text = "&H7000FE"; }, 1},
       {"own layout, No to the block", 5, false, {No}, {"The 83 bytes at &H700000, the 9 bytes at &H70005D and the 48 "
        "bytes at &H700067 are not free space: 134 of them are not FF. Write over them?"}, {}, "", {}, 0},
       {"game-ready, over free space: no question", 5, true, {}, {}, {{kS + 0x200, 120}, {kS + 0x279, 38}, {kT + 0x100, 2}},
-       "", [](Builder& b) { b.form5.Text3.text = "&H700200", b.form5.Text12.text = "&H7A0100"; }},
+       "", [](Builder& b) { b.form5.Text3.text = "&H700200", b.form5.Text12.text = "&H7A0100"; }, 1},
+      {"the first offset behind the header is free to use", 3, false, {}, {}, {{0xC0, 13}}, "",
+       [](Builder& b) { b.form3.Text3.text = "&HC0"; }, 0},
       {"a script over its own message", 4, true, {}, {}, {},
        "Offset: \"&H700000\": the script, 26 bytes from &H700000, and Text Offset: \"&H700010\": the message, 3 bytes "
-       "from &H700010, would share bytes", [](Builder& b) { b.form4.Text12.text = "&H700010"; }},
-      {"cancelled message", 4, true, {}, {}, {}, "", [](Builder& b) { b.dialogs.inputAnswers = {std::nullopt}; }},
+       "from &H700010, would share bytes", [](Builder& b) { b.form4.Text12.text = "&H700010"; }, 1},
+      {"cancelled message", 4, true, {}, {}, {}, "", [](Builder& b) { b.dialogs.inputAnswers = {std::nullopt}; }, 1},
       {"a game of no family", 5, true, {}, {}, {}, "the open ROM is none of these games. Untick \"Game-ready script\"",
        [](Builder& b) {  // Japanese Emerald
          b.fixture->PutBytes(0xAC, test::FromHex("42 50 45 4A")), b.Open(b.fixture->path()), b.form5.filled.Fill(b.form);
          b.dialogs = ScriptedDialogs();
        }, 0},
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.road);
+  for (const auto& [road, form, gameReady, answers, questions, changes, says, set, inputs] : rows) {
+    SCOPED_TRACE(road);
     Builder b;
     b.fixture->PutBytes(kS, Bytes(6, 0xFF));
-    b.form3.Check1.checked = b.form4.Check1.checked = b.form5.Check1.checked = row.gameReady;
+    b.form3.Check1.checked = b.form4.Check1.checked = b.form5.Check1.checked = gameReady;
     b.dialogs.inputAnswers = {"AB"};
-    if (row.set) row.set(b);
-    b.dialogs.messageAnswers = row.answers;
+    if (set) set(b);
+    b.dialogs.messageAnswers = answers;
     const ByteOracle oracle(b.fixture->path());
-    const std::string failure = FailureOf([&] { b.Insert(row.form); });
-    EXPECT_THAT(failure, HasSubstr(row.failure));
-    EXPECT_EQ(failure.empty(), *row.failure == '\0');
-    EXPECT_EQ(oracle.Changes(), row.changes);
+    const std::string failure = FailureOf([&] { b.Insert(form); });
+    EXPECT_THAT(failure, HasSubstr(says));
+    EXPECT_EQ(failure.empty(), *says == '\0');
+    EXPECT_EQ(oracle.Changes(), changes);
     std::vector<std::string> asked = b.dialogs.MessageTexts();
     std::erase(asked, "Inserted");
-    EXPECT_EQ(asked, row.asked);
+    EXPECT_EQ(asked, questions);
     for (const auto& m : b.dialogs.messages) EXPECT_EQ(m.buttons == MessageButtons::YesNo, m.text != "Inserted");
-    EXPECT_EQ(b.dialogs.inputs.size(), row.inputs);
-    const bool closed = !row.changes.empty() && *row.failure == '\0';  // only once all is written
+    EXPECT_EQ(b.dialogs.inputs.size(), inputs);
+    const bool closed = !changes.empty() && *says == '\0';  // only once all is written
     EXPECT_EQ(b.dialogs.windowEvents.size(), closed ? 1u : 0u);
   }
 }
 
 // Each case an insert that must write nothing, and asks nothing: what is wrong, which form, what is said.
 TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNothing) {
-  const struct {
-    std::function<void(Builder&)> set;
-    int form;
-    const char* says;
-  } refusals[] = {
+  const std::tuple<std::function<void(Builder&)>, int, const char*> refusals[] = {
       {[](Builder& b) { b.form3.crytxt.text = "x", b.form3.Text3.text = "?"; }, 3, "PKMN Cry: \"x\""},  // fields first
       {[](Builder& b) { b.form3.Text3.text = "&H000000"; }, 3,
        "Offset: \"&H000000\" lies inside the cartridge header, &H0 to &HBF,"},
@@ -329,53 +315,45 @@ TEST(ScriptBuildersTest, ABadFieldOrAPlaceOutsideTheFileWritesNothingAndAsksNoth
       {[](Builder& b) { b.form4.Text12.text = "&HFFFFFF"; }, 4, "Text Offset: \"&HFFFFFF\": the message, 2 bytes"},
       {[](Builder& b) { b.form5.Text12.text = "&HFFFFFF"; }, 5, "the question, 2 bytes"},
   };
-  for (const auto& r : refusals) {
-    SCOPED_TRACE(r.says);
+  for (const auto& [set, form, says] : refusals) {
+    SCOPED_TRACE(says);
     Builder b;
-    r.set(b);
+    set(b);
     const ByteOracle oracle(b.fixture->path());
-    EXPECT_THAT(FailureOf([&] { b.Insert(r.form); }), AllOf(HasSubstr(r.says), HasSubstr("Nothing was written.")));
+    EXPECT_THAT(FailureOf([&] { b.Insert(form); }), AllOf(HasSubstr(says), HasSubstr("Nothing was written.")));
     EXPECT_THAT(oracle.Changes(), IsEmpty());
     EXPECT_THAT(b.dialogs.inputs, IsEmpty());
     EXPECT_THAT(b.dialogs.windowEvents, IsEmpty());
   }
-  Builder b;  // the first offset behind the header is free to use
-  b.form3.Text3.text = "&HC0";
-  b.Insert(3);
-  EXPECT_EQ(b.dialogs.windowEvents.size(), 1u);
 }
 
 // Runs of FF in a ROM of 00 bytes: the finder takes the first multiple of 4 at or after the start
 // (never in the header) that has the length and one FF more; the file's search reads in blocks of a
 // MiB, so a run across the end of the first block is found all the same.
 TEST(FreeSpaceTest, FindsTheFirstAlignedRunWithOneFFBehind) {
-  const struct {
-    std::vector<std::pair<std::size_t, std::size_t>> runs;  // where, how long
-    std::int64_t from, length;
-    std::optional<RomOffset> found;
-    std::size_t size = 0x200;
-  } rows[] = {
-      {{{0xC0, 8}}, 0, 8, std::nullopt},                   // one byte too short
-      {{{0xC0, 8}, {0x100, 9}}, 0, 8, 0x100},              // so the next is taken
-      {{{0xC1, 12}}, 0, 8, 0xC4},                          // from its first multiple of 4
-      {{{0x1F7, 9}}, 0, 8, std::nullopt},                  // too short once aligned
-      {{{0x1F0, 16}}, 0x1F1, 8, 0x1F4},                    // the last place there is
-      {{{0xC0, 0x140}}, 0x1FC, 3, 0x1FC},                  // the very end of the file
-      {{{0x00, 0x200}}, 0, 8, 0xC0},                       // never in the header
-      {{{0x00, 0x200}}, 0x101, 0, 0x104},                  // length 0 takes one FF
-      {{}, 0, 0, std::nullopt},
+  using Runs = std::vector<std::pair<std::size_t, std::size_t>>;  // where, how long
+  const std::tuple<Runs, std::int64_t, std::int64_t, std::optional<RomOffset>, std::size_t> rows[] = {
+      {{{0xC0, 8}}, 0, 8, std::nullopt, 0x200},              // one byte too short
+      {{{0xC0, 8}, {0x100, 9}}, 0, 8, 0x100, 0x200},         // so the next is taken
+      {{{0xC1, 12}}, 0, 8, 0xC4, 0x200},                     // from its first multiple of 4
+      {{{0x1F7, 9}}, 0, 8, std::nullopt, 0x200},             // too short once aligned
+      {{{0x1F0, 16}}, 0x1F1, 8, 0x1F4, 0x200},               // the last place there is
+      {{{0xC0, 0x140}}, 0x1FC, 3, 0x1FC, 0x200},             // the very end of the file
+      {{{0x00, 0x200}}, 0, 8, 0xC0, 0x200},                  // never in the header
+      {{{0x00, 0x200}}, 0x101, 0, 0x104, 0x200},             // length 0 takes one FF
+      {{}, 0, 0, std::nullopt, 0x200},
       {{{0x1000A0, 0x40}}, 0xC0, 0x30, 0x1000A0, 0x300000},  // across the first block's end
-      {{{0xC0, 0x140}}, INT64_MAX, 1, std::nullopt},       // a start or a length past the last offset a ROM can
-      {{{0xC0, 0x140}}, 0, INT64_MAX, std::nullopt},       // have finds nothing
+      {{{0xC0, 0x140}}, INT64_MAX, 1, std::nullopt, 0x200},  // a start or a length past the last offset a ROM can
+      {{{0xC0, 0x140}}, 0, INT64_MAX, std::nullopt, 0x200},  // have finds nothing
   };
-  for (const auto& row : rows) {
-    test::FixtureRom fixture("AXPE", row.size);
-    fixture.PutBytes(0xC0, Bytes(row.size - 0xC0, 0x00));
-    for (const auto& [at, length] : row.runs) fixture.PutBytes(at, Bytes(length, 0xFF));
+  for (const auto& [runs, from, length, found, size] : rows) {
+    test::FixtureRom fixture("AXPE", size);
+    fixture.PutBytes(0xC0, Bytes(size - 0xC0, 0x00));
+    for (const auto& [at, count] : runs) fixture.PutBytes(at, Bytes(count, 0xFF));
     RomImage rom;
     rom.Open(fixture.path());
-    EXPECT_EQ(FindFreeSpace(fixture.image(), row.from, row.length), row.found) << row.from << " " << row.length;
-    EXPECT_EQ(FindFreeSpace(rom, row.from, row.length), row.found) << row.from << " " << row.length;
+    EXPECT_EQ(FindFreeSpace(fixture.image(), from, length), found) << from << " " << length;
+    EXPECT_EQ(FindFreeSpace(rom, from, length), found) << from << " " << length;
   }
 }
 
@@ -384,23 +362,20 @@ TEST(FreeSpaceTest, FindsTheFirstAlignedRunWithOneFFBehind) {
 // message is kept for a text offset, asks for the message first and keeps it for the insert (the
 // windows' test shows it there). Each press returns what its field shows then.
 TEST(FreeSpaceTest, EachButtonFindsRoomForItsPieceOrSaysThereIsNone) {
-  const struct {
-    std::function<std::string(Builder&)> press;
-    const char* shows;
-    const char* said = "";
-  } rows[] = {
-      {[](Builder& b) { return PressFindScriptSpace(b.form3, b.rom, b.dialogs), b.form3.Text3.text; }, "&H700100"},
+  const std::tuple<std::function<std::string(Builder&)>, const char*, const char*> rows[] = {  // press, shows, said
+      {[](Builder& b) { return PressFindScriptSpace(b.form3, b.rom, b.dialogs), b.form3.Text3.text; }, "&H700100",
+       ""},
       {[](Builder& b) { return PressFindTextSpace(b.form4, b.rom, b.dialogs), b.form4.Text12.text + b.form4.keptMessage; },
-       "&H7A0010AB"},
+       "&H7A0010AB", ""},
       {[](Builder& b) {
          b.form4.Text12.text = "&H700100";
          return PressFindScriptSpace(b.form4, b.rom, b.dialogs), b.form4.Text3.text + b.form4.keptMessage;
-       }, "&H700108AB"},  // behind the message asked for first (BB BC FF 00) and one FF
+       }, "&H700108AB", ""},  // behind the message asked for first (BB BC FF 00) and one FF
       {[](Builder& b) {
          b.form5.Check1.checked = true, b.form5.Text12.text = "&H700180";  // the game-ready block
          return PressFindScriptSpace(b.form5, b.rom, b.dialogs), b.form5.Text3.text + b.form5.keptMessage;
-       }, "&H700184AB"},
-      {[](Builder& b) { return PressFindTextSpace(b.form5, b.rom, b.dialogs), b.form5.Text12.text; }, "&H7A0010"},
+       }, "&H700184AB", ""},
+      {[](Builder& b) { return PressFindTextSpace(b.form5, b.rom, b.dialogs), b.form5.Text12.text; }, "&H7A0010", ""},
       {[](Builder& b) {
          b.form3.Text3.text = "&HFFFFF4";
          return PressFindScriptSpace(b.form3, b.rom, b.dialogs), b.form3.Text3.text;
@@ -409,18 +384,18 @@ TEST(FreeSpaceTest, EachButtonFindsRoomForItsPieceOrSaysThereIsNone) {
       {[](Builder& b) {
          b.dialogs.inputAnswers = {std::nullopt};  // the message cancelled
          return PressFindTextSpace(b.form4, b.rom, b.dialogs), b.form4.Text12.text;
-       }, "&H7A0000"},
+       }, "&H7A0000", ""},
       {[](Builder& b) {
          b.dialogs.inputAnswers = {std::nullopt}, b.form4.Text12.text = "&H700100";  // the script clear of FF 00
          return PressFindScriptSpace(b.form4, b.rom, b.dialogs), b.form4.Text3.text;
-       }, "&H700104"},
+       }, "&H700104", ""},
   };
-  for (const auto& row : rows) {
+  for (const auto& [press, shows, said] : rows) {
     Builder b;
     b.dialogs.inputAnswers = {"AB"};
     const ByteOracle oracle(b.fixture->path());
-    EXPECT_EQ(row.press(b), row.shows);
-    EXPECT_EQ(b.dialogs.MessageTexts(), *row.said ? std::vector<std::string>{row.said} : std::vector<std::string>{});
+    EXPECT_EQ(press(b), shows);
+    EXPECT_EQ(b.dialogs.MessageTexts(), *said ? std::vector<std::string>{said} : std::vector<std::string>{});
     EXPECT_THAT(oracle.Changes(), IsEmpty());
   }
   Builder b;  // a field that is no offset is named, before any question

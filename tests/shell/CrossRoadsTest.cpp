@@ -41,31 +41,25 @@ struct Desk : test::MainSession {
         .write(reinterpret_cast<const char*>(from.image().data()), static_cast<std::streamsize>(from.image().size()));
     if (renamed) runs = runs && test::RenameOver(written, path);
   }
-  void Open(FixtureRom& from) {
+  void Open(FixtureRom& from, std::optional<WindowName> window = {}) {
     Put(from);
     MainSession::Open(path);
+    if (window) Show(*window);
   }
 };
 
-// Each road: what it does (the last step is the action whose writes are checked), the bytes
-// of the file at the path that may change, counted from the state before that last step, and
-// what it says (a part of the sentence that ends it, or of the last message; "" for none).
-struct Road {
-  const char* name;
-  std::function<void(Desk&)> before;
-  std::function<void(Desk&)> act;
-  std::vector<ByteRange> changes;
-  const char* says;
-};
+// Each road: its name, what it does (the last step, `act`, is the action whose writes are checked), the bytes of the
+// file at the path that may change, counted from the state before that last step, and what it says (a part of the
+// sentence that ends it, or of the last message; "" for none).
+using Road = std::tuple<const char*, std::function<void(Desk&)>, std::function<void(Desk&)>, std::vector<ByteRange>,
+                        const char*>;
 
 void GiftOnFireRed(Desk& d) {
-  d.Open(d.fireRed);
-  d.Show(WindowName::Form5);
+  d.Open(d.fireRed, WindowName::Form5);
   SetCombo1Selection(d.session.form5, 0x19);
   SetCombo3Selection(d.session.form5, 5);
   SetCombo2Selection(d.session.form5, 13);
-  d.session.form5.Text3.text = "&H700000";
-  d.session.form5.Text12.text = "&H7A0000";
+  std::tie(d.session.form5.Text3.text, d.session.form5.Text12.text) = std::pair("&H700000", "&H7A0000");
 }
 
 // `save`, with the system refusing every write from `limit` bytes into a file on.
@@ -84,24 +78,21 @@ void Gift(Desk& d) {
   InsertGivePokemon(d.session.form5, d.form, d.rom, d.dialogs);
 }
 void StartersOnFireRed(Desk& d) {
-  d.Open(d.fireRed);
-  d.Show(WindowName::Form2);
+  d.Open(d.fireRed, WindowName::Form2);
   SetCombo1Selection(d.session.form2, 0x19);
 }
 void SaveStarters(Desk& d) { PressSave(d.session.form2, d.form, d.rom, d.dialogs); }
+void SaveLanding(Desk& d) { PressSavebutton(d.session.form8, d.rom, d.form, d.dialogs); }
 void EventOnRuby(Desk& d) {
   d.Open(d.ruby);
   d.PickEvent(1);
   d.form.spritetxt.text = "&H50";
 }
-void SaveEvent(Desk& d) { d.Save(); }
 
 const Road kRoads[] = {
     {"a rename keeps the words of the event picked before it",
      [](Desk& d) {
-       d.Open(d.ruby);
-       d.PickEvent(1);
-       d.form.spritetxt.text = "&H50";
+       EventOnRuby(d);
        d.form.hoobla2.text = "&H19";  // a typed cry survives the rename
        d.Menu(MenuEntry::mnuedipmon, {"&H19", "PIKA"});
      },
@@ -111,8 +102,7 @@ const Road kRoads[] = {
     {"a list refilled for another window shows its item and writes nothing until the form is opened",
      [](Desk& d) {
        GiftOnFireRed(d);
-       d.Open(d.ruby);
-       d.Show(WindowName::Form3);  // takes the item list from the give-Pokemon form on show
+       d.Open(d.ruby, WindowName::Form3);  // takes the item list from the give-Pokemon form on show
        EXPECT_EQ(d.session.form5.Text2.text, "&H0000");
      },
      [](Desk& d) { InsertGivePokemon(d.session.form5, d.form, d.rom, d.dialogs); }, {},
@@ -146,15 +136,12 @@ const Road kRoads[] = {
      {}, "This window was filled before the last Open ROM"},
     {"a landing picked on FireRed is not saved into Ruby",
      [](Desk& d) {
-       d.Open(d.fireRed);
-       d.Show(WindowName::Form8);
+       d.Open(d.fireRed, WindowName::Form8);
        SelectLocation(d.session.form8, d.rom, d.form, FlyList::kanto, 8);
-       d.session.form8.XXt.text = "&H15";
-       d.session.form8.YYt.text = "&H22";
+       std::tie(d.session.form8.XXt.text, d.session.form8.YYt.text) = std::pair("&H15", "&H22");
        d.Open(d.ruby);
      },
-     [](Desk& d) { PressSavebutton(d.session.form8, d.rom, d.form, d.dialogs); }, {},
-     "Pick a location, or press \"Load\""},
+     SaveLanding, {}, "Pick a location, or press \"Load\""},
     {"after Quit the name editors write no table of the game before",
      [](Desk& d) {
        d.Open(d.fireRed);
@@ -183,11 +170,7 @@ const Road kRoads[] = {
        d.Menu(MenuEntry::mnuediten);
      },
      {}, "No ROM is open. Open a ROM first."},
-    {"a renamed item shows in the next form that lists it",
-     [](Desk& d) {
-       d.Open(d.fireRed);
-       d.Show(WindowName::Form3);
-     },
+    {"a renamed item shows in the next form that lists it", [](Desk& d) { d.Open(d.fireRed, WindowName::Form3); },
      [](Desk& d) {
        d.Menu(MenuEntry::mnuediten, {"&HD", "Amber"});
        d.Show(WindowName::Form4);
@@ -196,15 +179,13 @@ const Road kRoads[] = {
      {{0x3DB028 + 13 * 44, 14}}, ""},
     {"a file renamed over the open one takes no save",
      [](Desk& d) {
-       d.Open(d.ruby);
-       d.Show(WindowName::Form2);
+       d.Open(d.ruby, WindowName::Form2);
        d.Put(d.ruby, true);  // another program saved a copy and renamed it over the file
      },
-     [](Desk& d) { PressSave(d.session.form2, d.form, d.rom, d.dialogs); }, {}, "is no longer the file that was opened"},
+     SaveStarters, {}, "is no longer the file that was opened"},
     {"a script written before a file was renamed over the open one is said to be in the file as it was opened",
      [](Desk& d) {
-       d.Open(d.ruby);
-       d.Show(WindowName::Form4);
+       d.Open(d.ruby, WindowName::Form4);
        SetCombo3Selection(d.session.form4, 5);
        d.session.form4.Text3.text = "&H700000", d.session.form4.Text12.text = "&H38EE50";  // the message over data
        // While the free-space question that follows the message stands, answered No.
@@ -233,8 +214,7 @@ const Road kRoads[] = {
      "no longer names the game that was opened (AXVE): it now reads \"BPRE\""},
     {"a landing whose load failed is saved only once a load reads it",
      [](Desk& d) {
-       d.Open(d.ruby);
-       d.Show(WindowName::Form8);
+       d.Open(d.ruby, WindowName::Form8);
        SelectLocation(d.session.form8, d.rom, d.form, FlyList::hoenn, 8);
        std::filesystem::resize_file(ToFilePath(d.path), 0x300000);
        EXPECT_THAT(test::FailureOf([&] { SelectLocation(d.session.form8, d.rom, d.form, FlyList::hoenn, 9); }),
@@ -243,8 +223,7 @@ const Road kRoads[] = {
        EXPECT_FALSE(d.session.form8.Image1.visible || d.session.form8.Shape2.visible);
        d.Put(d.ruby);  // the whole ROM again, in place
      },
-     [](Desk& d) { PressSavebutton(d.session.form8, d.rom, d.form, d.dialogs); }, {},
-     "its last read failed. Pick a location, or press \"Load\""},
+     SaveLanding, {}, "its last read failed. Pick a location, or press \"Load\""},
     {"starters past the end of a short ROM show no value, and are saved only once read",
      [](Desk& d) {
        d.Open(d.ruby);
@@ -254,7 +233,7 @@ const Road kRoads[] = {
        EXPECT_EQ(d.session.form2.Combo1.text, "");
        d.Put(d.ruby);  // the whole ROM again, in place: the same file and game
      },
-     [](Desk& d) { PressSave(d.session.form2, d.form, d.rom, d.dialogs); }, {}, "or their last read failed"},
+     SaveStarters, {}, "or their last read failed"},
 };
 
 // Actions that write in steps, stopped by the system part way through: after a piece, or inside one.
@@ -279,15 +258,13 @@ const Road kStoppedRoads[] = {
      "the 2 bytes at &H169BB5 (Ball 1), 2 bytes at &H169D82 (Ball 2) and 2 bytes at &H169DB8 (Ball 3)."},
     {"a braille insert stopped before its script says what it wrote",
      [](Desk& d) {
-       d.Open(d.ruby);
-       d.Show(WindowName::Form6);
+       d.Open(d.ruby, WindowName::Form6);
        Form6& f = d.session.form6;
        for (TextBox* field : {&f.postionleft, &f.postiontop, &f.msgboxleft, &f.msgboxtop, &f.brailleleft, &f.brailletop}) {
          field->text = "0";
        }
        SetText1(f, "A");
-       f.Text2.text = "&H700000";
-       f.Text3.text = "&H800000";
+       std::tie(f.Text2.text, f.Text3.text) = std::pair("&H700000", "&H800000");
      },
      RefusedFrom(0x800000, [](Desk& d) {
        d.dialogs.messageAnswers = {MessageAnswer::Yes};
@@ -296,31 +273,32 @@ const Road kStoppedRoads[] = {
      {{0x700000, 7}, {0x700008, 1}},  // the 0xFF end byte stood there already
      "Written before it stopped: 9 bytes at &H700000 (the braille record). Not written: 8 bytes at &H800000 (its "
      "script)."},
-    {"an event save stopped at its words says what it wrote", EventOnRuby, RefusedFrom(0xA00000, SaveEvent),
+    {"an event save stopped at its words says what it wrote", EventOnRuby, RefusedFrom(0xA00000, [](Desk& d) { d.Save(); }),
      {{0x38EE51, 1}},
      "Written before it stopped: 22 bytes at &H38EE50 (the person record). Not written: 2 bytes at &HA00103 (the "
      "Pokemon word) and the Cry word at &HA00108."},
-    {"an event save stopped inside its person record", EventOnRuby, RefusedFrom(0x38EE52, SaveEvent), {{0x38EE51, 1}},
+    {"an event save stopped inside its person record", EventOnRuby, RefusedFrom(0x38EE52, [](Desk& d) { d.Save(); }),
+     {{0x38EE51, 1}},
      "Written before it stopped: the first 2 of the 22 bytes at &H38EE50 (the person record). Not written: the last "
      "20 of the 22 bytes at &H38EE50 (the person record), the Pokemon word at &HA00103 and the Cry word at &HA00108."},
 };
 
 void Walk(std::span<const Road> roads) {
-  for (const Road& road : roads) {
-    SCOPED_TRACE(road.name);
+  for (const auto& [name, before, act, changes, says] : roads) {
+    SCOPED_TRACE(name);
     Desk d;
-    road.before(d);
+    before(d);
     d.dialogs.messages.clear();
     const test::ByteOracle oracle(d.path);
-    std::string said = test::FailureOf([&] { road.act(d); });
+    std::string said = test::FailureOf([&] { act(d); });
     if (!d.runs) {  // nothing to refuse where no other program can replace the open file, say
-      ::testing::Test::RecordProperty("cannot run here", road.name);
+      ::testing::Test::RecordProperty("cannot run here", name);
       continue;
     }
     if (said.empty() && !d.dialogs.messages.empty()) said = d.dialogs.messages.back().text;
-    EXPECT_THAT(said, HasSubstr(road.says));
-    EXPECT_EQ(*road.says == '\0', said.empty()) << said;
-    EXPECT_EQ(oracle.Changes(), road.changes);
+    EXPECT_THAT(said, HasSubstr(says));
+    EXPECT_EQ(*says == '\0', said.empty()) << said;
+    EXPECT_EQ(oracle.Changes(), changes);
   }
 }
 
@@ -337,8 +315,7 @@ TEST(CrossRoadsTest, AnActionStoppedPartWaySaysWhatItWroteAndWhatNot) {
 // meanwhile takes none of the bytes meant for the ROM opened.
 TEST(CrossRoadsTest, AFileChangedWhileAQuestionStandsTakesNoByte) {
   Desk d;
-  d.Open(d.ruby);
-  d.Show(WindowName::Form3);
+  d.Open(d.ruby, WindowName::Form3);
   d.session.form3.Text3.text = "&H38EE50";  // a person record: no free space
   d.dialogs.messageAnswers = {MessageAnswer::Yes};
   d.dialogs.whileAsked = [&] { d.Put(d.fireRed); };

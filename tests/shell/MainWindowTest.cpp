@@ -9,22 +9,18 @@
 namespace tessarine {
 namespace {
 
-using test::EventFixtureRom;
-using test::FixtureSpeciesName;
 using Window = test::ScriptedDialogs::WindowEvent;
 
-// What an open leaves of the main window, in one line: the "RomCode:" line, rom, cowmoo, Label20,
-// Label1, [grou], then each control that an open switches, shown (+) or hidden (-), and "x" when
-// disabled.
+// What an open leaves of the main window, in one line: the "RomCode:" line, rom, cowmoo, Label20, Label1, [grou], then
+// each control that an open switches, shown (+) or hidden (-), and "x" when disabled.
 std::string OpenState(const Form1& f) {
   std::string line = f.hdtxt.caption + " " + f.rom + " " + f.cowmoo + " " + f.Label20 + " " + f.Label1 + " [" +
                      f.grou + "]";
   const std::tuple<const char*, bool, bool> controls[] = {
       {"Command6", f.Command6.visible, f.Command6.enabled}, {"frlgl", f.frlgl.visible, f.frlgl.enabled},
       {"Combo3", f.Combo3.visible, f.Combo3.enabled},       {"Combo4", f.Combo4.visible, f.Combo4.enabled},
-      {"Combo5", f.Combo5.visible, f.Combo5.enabled},
-      {"Command2", f.Command2.visible, f.Command2.enabled}, {"Command9", f.Command9.visible, f.Command9.enabled},
-      {"Command10", f.Command10.visible, f.Command10.enabled}};
+      {"Combo5", f.Combo5.visible, f.Combo5.enabled},       {"Command2", f.Command2.visible, f.Command2.enabled},
+      {"Command9", f.Command9.visible, f.Command9.enabled}, {"Command10", f.Command10.visible, f.Command10.enabled}};
   for (const auto& [name, visible, enabled] : controls) {
     line += std::string(" ") + name + (visible ? "+" : "-") + (enabled ? "" : "x");
   }
@@ -53,13 +49,13 @@ TEST(OpenRomTest, AKnownGameSetsTheWindowUpForItsFamilyAndRevision) {
   };
   test::MainSession s;
   for (const auto& [game, state] : opens) {
-    FixtureRom fixture = EventFixtureRom(game);
+    FixtureRom fixture = test::EventFixtureRom(game);
     s.Open(fixture.path());
     const Form1& f = s.form;
     EXPECT_EQ(OpenState(f), state);
     ASSERT_EQ(f.Combo1.rows.size(), 412u);  // the names at the revision's own offset in the fixture
-    EXPECT_EQ(f.Combo1.rows[0], "000 - " + FixtureSpeciesName(0));
-    EXPECT_EQ(f.Combo1.rows[411], "19B - " + FixtureSpeciesName(411));
+    EXPECT_EQ(f.Combo1.rows[0], "000 - " + test::FixtureSpeciesName(0));
+    EXPECT_EQ(f.Combo1.rows[411], "19B - " + test::FixtureSpeciesName(411));
     EXPECT_EQ(f.Combo1.selected, 0);
     s.rom.Close();  // before the fixture goes: Windows deletes no file that is open
   }
@@ -74,14 +70,10 @@ TEST(OpenRomTest, AnUnknownGameHidesTheMainWindowAndAsksForItsTables) {
     EXPECT_EQ(FindGameProfile(game), nullptr) << '"' << game.code << "\" " << game.revision;  // the exact code only
   }
   EXPECT_FALSE(FindGameProfile({"BPEJ", 0})->Opens());  // known to the starter editor and Wingfall only
-  FixtureRom ruby = EventFixtureRom("AXVE");
+  FixtureRom ruby = test::EventFixtureRom("AXVE");
   FixtureRom emerald = FixtureRom::JapaneseEmerald(), tooShort = FixtureRom::TooShort();
   FixtureRom ruby13 = test::FixtureRom("AXVE", FixtureRom::kSize, 3), noRevision("AXVE", 0xBC);
-  const struct {
-    std::string path;
-    std::string code;
-    std::vector<std::string> messages;
-  } rows[] = {
+  const std::tuple<std::string, std::string, std::vector<std::string>> rows[] = {  // path, code, messages
       {emerald.path(), "BPEJ", {"Unsupported ROM"}},
       {ruby13.path(), "AXVE 1.3",
        {"Unsupported ROM\n\nThis ROM's game code is AXVE, and its revision byte holds 3. Tessarine does not know the "
@@ -96,17 +88,17 @@ TEST(OpenRomTest, AnUnknownGameHidesTheMainWindowAndAsksForItsTables) {
        {"Could not open \"/nonexistent/rom.gba\": No such file or directory.", "Unsupported ROM"}},
   };
   const std::string rubyState = " Loaded rs &H1F716C &H38EE50 [&H38D880] Command6+x frlgl- Combo3+";
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.path);
+  for (const auto& [path, code, messages] : rows) {
+    SCOPED_TRACE(path);
     test::MainSession s;
     s.Open(ruby.path());
     s.dialogs.messages.clear();
-    s.Open(row.path);
-    EXPECT_EQ(s.dialogs.MessageTexts(), row.messages);
+    s.Open(path);
+    EXPECT_EQ(s.dialogs.MessageTexts(), messages);
     EXPECT_THAT(s.dialogs.windowEvents, ElementsAre(Window{WindowName::Form1, false}, Window{WindowName::Form9, true}));
     EXPECT_THAT(s.form.Combo1.rows, IsEmpty());
-    EXPECT_EQ(OpenState(s.form), row.code + std::regex_replace(rubyState, std::regex("frlgl-"), "frlgl-x") +
-                                     "x Combo4-x Combo5-x Command2+ Command9+x Command10+x");
+    EXPECT_EQ(OpenState(s.form), code + std::regex_replace(rubyState, std::regex("frlgl-"), "frlgl-x") +
+                                 "x Combo4-x Combo5-x Command2+ Command9+x Command10+x");
     s.dialogs.windowEvents.clear();  // Quit, like Continue, brings the main window back
     PressQuit(s.session.form9, s.dialogs);
     EXPECT_THAT(s.dialogs.windowEvents, ElementsAre(Window{WindowName::Form9, false}, Window{WindowName::Form1, true}));
@@ -169,48 +161,42 @@ TEST(NameEditorMenuTest, EachGameRenamesInItsOwnTablesAndItsListsShowTheNames) {
 // and an unknown game that passes the "Unsupported ROM" dialog with the two offsets typed.
 TEST(NameEditorMenuTest, TheTwoAnswersWriteTheEncodedNameAndNothingElse) {
   using Answer = std::optional<std::string>;
-  const struct {
-    const char* code;
-    MenuEntry entry;
-    Answer number, name;
-    test::WrittenRuns written;
-    std::string row;      // the entry's row of Combo1 after a Pokemon rename, or a cancel
-    std::string failure;  // part of the sentence that ends the action
-    std::array<const char*, 2> typedInForm9{};
-  } cases[] = {
+  // The game, the menu entry and the two answers; what is written; the entry's row of Combo1 after a Pokemon rename, or
+  // a cancel; part of the sentence that ends the action; the offsets typed in the "Unsupported ROM" dialog.
+  using Case = std::tuple<const char*, MenuEntry, Answer, Answer, test::WrittenRuns, std::string, std::string,
+                          std::array<const char*, 2>>;
+  const Case cases[] = {
       {"AXVE", MenuEntry::mnuedipmon, "&H19", "AB[PK]CDEFGHIJ", {{0x1F727F, "BB BC 53 BD BE BF C0 C1"}},
-       "019 - ABPKCDEFG"},
+       "019 - ABPKCDEFG", "", {}},
       {"BPRE", MenuEntry::mnuedipmon, "", "", {{0x245EE0, "00 00 00 00 00 00 00 00 00 00 00"}},
-       "000 - " + std::string(10, ' ')},
-      {"AXVE", MenuEntry::mnuedipmon, std::nullopt, "PIKA", {}, "000 - "},
-      {"AXVE", MenuEntry::mnuedipmon, "&H19", std::nullopt, {}, "019 - "},
+       "000 - " + std::string(10, ' '), "", {}},
+      {"AXVE", MenuEntry::mnuedipmon, std::nullopt, "PIKA", {}, "000 - ", "", {}},
+      {"AXVE", MenuEntry::mnuedipmon, "&H19", std::nullopt, {}, "019 - ", "", {}},
       {"BPEJ", MenuEntry::mnuedipmon, "&H19", "PIKA", {{0x245FF3, "CA C3 C5 BB 00 00 00 00 00 00 00"}}, "019 - PIKA      ",
        "", {"&H245EE0", "&H000000"}},
       {"BPEJ", MenuEntry::mnuedipmon, "-1", "A", {}, "", "Pokemon: \"&HFFFFFFFF\": its name in the table at &HCA, 11 bytes from "
        "&HBF, would lie inside the cartridge header", {"&HCA", "&H000000"}},
       {"BPRE", MenuEntry::mnuediten, "&H2", "ééééééééééééééé", {{0x3DB080, "1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B 1B"}},
-       ""},  // cut in characters, not in bytes
+       "", "", {}},  // cut in characters, not in bytes
       {"BPEJ", MenuEntry::mnuediten, "&H2", "A", {}, "", "Item Names: \"&H24SEE0\" is not", {"&H245EE0", "&H24SEE0"}},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(std::string(c.code) + " " + c.number.value_or("(cancel)") + " " + c.name.value_or("(cancel)"));
-    test::MainSession s(FixtureRom{c.code});
-    if (c.typedInForm9[0] != nullptr) {
-      s.session.form9.Text1.text = c.typedInForm9[0];
-      s.session.form9.Text2.text = c.typedInForm9[1];
+  for (const auto& [code, entry, number, name, written, row, says, typedInForm9] : cases) {
+    SCOPED_TRACE(std::string(code) + " " + number.value_or("(cancel)") + " " + name.value_or("(cancel)"));
+    test::MainSession s(FixtureRom{code});
+    if (typedInForm9[0] != nullptr) {
+      std::tie(s.session.form9.Text1.text, s.session.form9.Text2.text) = std::pair(typedInForm9[0], typedInForm9[1]);
       PressContinue(s.session.form9, s.form, s.dialogs);
     }
-    s.dialogs.inputAnswers = {c.number, c.name};
     const test::ByteOracle oracle(s.fixture->path());
-    const std::string failure = test::FailureOf([&] { s.Menu(c.entry, {c.number, c.name}); });
-    EXPECT_EQ(oracle.Written(), c.written);
-    EXPECT_THAT(failure, HasSubstr(c.failure));
-    EXPECT_EQ(failure.empty(), c.failure.empty()) << failure;
-    EXPECT_EQ(s.dialogs.inputs.size(), c.number ? 2u : 1u);
-    EXPECT_EQ(s.dialogs.inputs[0].prompt, c.entry == MenuEntry::mnuediten ? kItemEntryPrompt : kPokemonEntryPrompt);
-    if (c.row.empty()) continue;
+    const std::string failure = test::FailureOf([&] { s.Menu(entry, {number, name}); });
+    EXPECT_EQ(oracle.Written(), written);
+    EXPECT_THAT(failure, HasSubstr(says));
+    EXPECT_EQ(failure.empty(), says.empty()) << failure;
+    EXPECT_EQ(s.dialogs.inputs.size(), number ? 2u : 1u);
+    EXPECT_EQ(s.dialogs.inputs[0].prompt, entry == MenuEntry::mnuediten ? kItemEntryPrompt : kPokemonEntryPrompt);
+    if (row.empty()) continue;
     ASSERT_EQ(s.form.Combo1.rows.size(), 412u);  // a cancel keeps the list of the open
-    EXPECT_EQ(s.form.Combo1.rows[std::size_t(ParseLenient(c.number.value_or("")))], c.row);
+    EXPECT_EQ(s.form.Combo1.rows[std::size_t(ParseLenient(number.value_or("")))], row);
   }
 }
 
@@ -219,8 +205,7 @@ TEST(NameEditorMenuTest, APlaceBeyondTheLastOffsetIsRefusedOnADeviceToo) {
   rom.Open(test::EndlessDevice());  // every place lies inside it
   Form1 main;
   const GameIdentity device = ReadGameIdentity(rom);  // what its header holds, if anything
-  main.headtxt = device.code;
-  main.revision = device.revision;
+  std::tie(main.headtxt, main.revision) = std::pair(device.code, device.revision);
   main.tables.Fill(main);
   main.Label20 = "&HC0";
   EXPECT_EQ(test::FailureOf([&] { EditPokemonName(rom, main, 0x1745D174, "A"); }),  // wraps to &HBC in 32 bits

@@ -78,11 +78,9 @@ struct User : test::MainSession {
   void Pick(Form& form, const ComboBox& list, void (*set)(Form&, int)) {
     if (!list.rows.empty()) set(form, Die(std::ssize(list.rows)));
   }
-
   void Type(std::initializer_list<TextBox*> fields, int top) {  // a Number into each field
     for (TextBox* field : fields) field->text = Number(top);
   }
-
   // A builder's fields, filled for all three forms at once; then the form's button.
   void Insert(WindowName window, Ranges& may) {
     if (careful || Die(4) > 0) Show(window);  // else the form on show, maybe of the ROM before
@@ -224,9 +222,8 @@ struct User : test::MainSession {
   }
 };
 
-// Thousands of actions, and opens, on ROMs of every game in a folder named with blanks and
-// letters outside ASCII. After each action every byte of the file it worked on is compared
-// with that file before it.
+// Thousands of actions, and opens, on ROMs of every game in a folder named with blanks and letters outside ASCII. After
+// each action every byte of the file it worked on is compared with that file before it.
 TEST(UserRoadsTest, NoActionWritesOutsideTheBytesItNames) {
   constexpr std::uint32_t kSeed = 20240611;
   constexpr int kSteps = 2000;
@@ -295,11 +292,8 @@ TEST(UserRoadsTest, NoActionWritesOutsideTheBytesItNames) {
 // good ROM and saves on it. On Ruby, and on Emerald, whose events the profile places.
 class BrokenRomTest : public testing::TestWithParam<GameIdentity> {
  public:
-  struct Row {
-    const char* broken;
-    std::function<void(User&)> breakIt;  // none: the file is read-only
-    const char* sentence;
-  };
+  // What is wrong with the ROM, what makes it so (none: the file is read-only), a pattern of what each button says.
+  using Row = std::tuple<const char*, std::function<void(User&)>, const char*>;
   void PressEveryButton(std::initializer_list<Row> rows);
 
   test::FixtureRom fixture = RoadRom(GetParam()), tooShort = test::FixtureRom::TooShort();
@@ -313,21 +307,21 @@ INSTANTIATE_TEST_SUITE_P(Games, BrokenRomTest, testing::Values(GameIdentity{"AXV
                          [](const testing::TestParamInfo<GameIdentity>& game) { return game.param.code; });
 
 void BrokenRomTest::PressEveryButton(std::initializer_list<Row> rows) {
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.broken);
+  for (const auto& [broken, breakIt, pattern] : rows) {
+    SCOPED_TRACE(broken);
     std::ofstream(ToFilePath(path), std::ios::binary).write(reinterpret_cast<const char*>(fixture.image().data()), kRomSize);
     std::optional<test::ReadOnlyFile> readOnly;
-    if (!row.breakIt && !readOnly.emplace(path).works()) continue;  // this machine lets the tests write any file
+    if (!breakIt && !readOnly.emplace(path).works()) continue;  // this machine lets the tests write any file
     User user(1, true);
     user.Open(path);
-    EXPECT_EQ(user.form.hdtxt.caption.ends_with(" (read-only)"), !row.breakIt);  // said at once, not at a write
+    EXPECT_EQ(user.form.hdtxt.caption.ends_with(" (read-only)"), !breakIt);  // said at once, not at a write
     for (const User::Action& action : user.actions) {
       EXPECT_TRUE(action.writes || user.Do(action.name).empty()) << action.name;
     }
-    if (row.breakIt) row.breakIt(user);
+    if (breakIt) breakIt(user);
     for (const User::Action& action : user.actions) {  // one that only reads may also run through
       const std::string sentence = user.Do(action.name);
-      EXPECT_TRUE((!action.writes && sentence.empty()) || std::regex_search(sentence, std::regex(row.sentence)))
+      EXPECT_TRUE((!action.writes && sentence.empty()) || std::regex_search(sentence, std::regex(pattern)))
           << action.name << ": " << sentence;
     }
 #ifndef _WIN32

@@ -11,8 +11,7 @@ namespace tessarine::test {
 
 // A run of bytes in a file: where it starts and how many bytes it holds.
 struct ByteRange {
-  std::size_t offset;
-  std::size_t length;
+  std::size_t offset, length;
   bool operator==(const ByteRange&) const = default;
 };
 inline std::ostream& operator<<(std::ostream& out, const ByteRange& range) {
@@ -45,11 +44,8 @@ class ByteOracle {
     const std::size_t common = std::min(before_.size(), after.size());
     for (std::size_t i = 0; i < common; ++i) {
       if (before_[i] == after[i]) continue;
-      if (!ranges.empty() && ranges.back().offset + ranges.back().length == i) {
-        ++ranges.back().length;
-      } else {
-        ranges.push_back({i, 1});
-      }
+      if (ranges.empty() || ranges.back().offset + ranges.back().length != i) ranges.push_back({i, 0});
+      ++ranges.back().length;
     }
     // A file that grew or shrank differs in every byte beyond the shorter length.
     const std::size_t longer = std::max(before_.size(), after.size());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ranges>
 #include <stdexcept>
 
 namespace tessarine::test {
@@ -36,11 +37,8 @@ constexpr std::uint32_t kFreeSpace = 0xA00000;  // the fixtures' scripts live he
 }  // namespace
 
 const std::vector<GameIdentity>& AllGames() {
-  static const std::vector<GameIdentity> games = [] {
-    std::vector<GameIdentity> all;
-    for (const GameOffsets& offsets : kGames) all.push_back(offsets.game);
-    return all;
-  }();
+  const auto identities = std::views::transform(kGames, &GameOffsets::game);
+  static const std::vector<GameIdentity> games(identities.begin(), identities.end());
   return games;
 }
 
@@ -51,13 +49,10 @@ const GameOffsets& OffsetsOf(const GameIdentity& game) {
 }
 
 std::string FixtureSpeciesName(int index) {
-  static constexpr std::array<std::string_view, 16> kHeads{"Bra", "Quo", "Zel", "Mor", "Vin", "Tal", "Fer", "Lum",
-                                                           "Osk", "Pim", "Rud", "Sol", "Tek", "Ulv", "Wix", "Yar"};
-  static constexpr std::array<std::string_view, 16> kTails{"lit", "dor", "vex", "nip", "gal", "rum", "sek", "tov",
-                                                           "bez", "kin", "pra", "wuf", "jol", "mec", "hax", "zub"};
-  static constexpr std::array<std::string_view, 2> kEnds{"", "ba"};
-  return std::string(kHeads[index % 16]) + std::string(kTails[(index / 16) % 16]) +
-         std::string(kEnds[(index / 256) % 2]);
+  constexpr std::string_view kHeads = "BraQuoZelMorVinTalFerLumOskPimRudSolTekUlvWixYar";  // 16 of 3 letters
+  constexpr std::string_view kTails = "litdorvexnipgalrumsektovbezkinprawufjolmechaxzub";
+  return std::string(kHeads.substr(index % 16 * 3, 3)) + std::string(kTails.substr(index / 16 % 16 * 3, 3)) +
+         (index / 256 % 2 ? "ba" : "");
 }
 
 Bytes FixturePerson::Encode() const {

@@ -22,8 +22,7 @@ struct GameOffsets {
   std::string_view family;
   std::uint32_t speciesNames;
   std::uint32_t label1, raytxt, grou, regi1, regi2, regi3;  // 0 in Emerald: its events are in FixtureEvents
-  std::uint32_t latiScript, groudonScript;
-  std::uint32_t items;
+  std::uint32_t latiScript, groudonScript, items;
   std::array<std::uint32_t, 3> starters;
   std::uint32_t flyTable;
 };
@@ -47,11 +46,9 @@ struct FixtureEvent {
   std::string_view name;  // its text in the list
   std::uint32_t person;   // offset of the person record
   FixturePerson record;
-  std::uint32_t script;   // where the event words are read (a constant for two events)
-  int firstAt = -1;       // distances of the words; -1 for events with no words
-  int secondAt = -1;
-  std::uint16_t first = 0;
-  std::uint16_t second = 0;
+  std::uint32_t script;             // where the event words are read (a constant for two events)
+  int firstAt = -1, secondAt = -1;  // distances of the words; -1 for events with no words
+  std::uint16_t first = 0, second = 0;
   bool listFollowsSecond = false;
   bool showsHoobla = false;
 };

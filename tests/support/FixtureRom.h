@@ -16,8 +16,7 @@
 
 namespace tessarine::test {
 
-// Bytes written as in a hex dump, "6A 5A 02", both ways, so that a failing comparison of
-// bytes reads like a dump.
+// Bytes written as in a hex dump, "6A 5A 02", both ways, so that a failing comparison of bytes reads like a dump.
 inline Bytes FromHex(std::string_view hex) {
   Bytes bytes;
   for (std::size_t at = 0; at + 1 < hex.size(); at += 3) {
@@ -34,9 +33,8 @@ inline std::string ToHex(const Bytes& bytes) {
   return hex;
 }
 
-// The game-text bytes of a name made of letters, digits and blanks. Only these of the
-// cartridge's Western table are known here, on purpose: the tests do not use the system's own
-// encoder to make what its decoder reads.
+// The game-text bytes of a name made of letters, digits and blanks. Only these of the cartridge's Western table are
+// known here, on purpose: the tests do not use the system's own encoder to make what its decoder reads.
 inline Bytes GameTextOf(std::string_view ascii) {
   Bytes bytes;
   for (const char c : ascii) {
@@ -65,11 +63,10 @@ inline std::filesystem::path TemporaryPath(std::string_view stem) {
          ("tessarine-" + run + "-" + std::to_string(counter++) + "-" + std::string(stem));
 }
 
-// Puts the file `from` at the name `to`, as a program that saves a new file does: by a rename
-// over it, or where the system renames nothing over a file that is open (Windows), as a
-// Windows program does it: the open file renamed out of the way (its opener shares deleting),
-// the new one renamed in, and the old one deleted, which the system does once it is closed.
-// False where the system refuses even that: the file at `to` stays, and `from` goes.
+// Puts the file `from` at the name `to`, as a program that saves a new file does: by a rename over it, or where the
+// system renames nothing over a file that is open (Windows), as a Windows program does it: the open file renamed out of
+// the way (its opener shares deleting), the new one renamed in, and the old one deleted, which the system does once it
+// is closed. False where the system refuses even that: the file at `to` stays, and `from` goes.
 inline bool RenameOver(const std::string& from, const std::string& to) {
   std::error_code refused, ignored;
   std::filesystem::rename(ToFilePath(from), ToFilePath(to), refused);
@@ -84,10 +81,9 @@ inline bool RenameOver(const std::string& from, const std::string& to) {
   return !refused;
 }
 
-// A ROM image made by the tests: 16 MiB of 0xFF with a chosen game code and revision in
-// the header, and whatever a test puts at its offsets. Nothing in it comes from a real game.
-// The image lives in memory until path() writes it to a temporary file of its own, which is
-// removed with the fixture; puts after that reach the file at the next path().
+// A ROM image made by the tests: 16 MiB of 0xFF with a chosen game code and revision in the header, and whatever a test
+// puts at its offsets. Nothing in it comes from a real game. The image lives in memory until path() writes it to a
+// temporary file of its own, which is removed with the fixture; puts after that reach the file at the next path().
 class FixtureRom {
  public:
   static constexpr std::size_t kSize = 16 * 1024 * 1024;

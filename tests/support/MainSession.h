@@ -13,9 +13,8 @@
 
 namespace tessarine::test {
 
-// A person's session with the program, without its windows: the records of the main window and
-// of the tools, the one ROM file, and dialogs that answer from a script; on a fixture of its
-// own, opened as the Open button does, or on none.
+// A person's session with the program, without its windows: the records of the main window and of the tools, the one
+// ROM file, and dialogs that answer from a script; on a fixture of its own, opened as the Open button does, or on none.
 struct MainSession {
   MainSession() = default;
   explicit MainSession(FixtureRom made) { Open(fixture.emplace(std::move(made)).path()); }

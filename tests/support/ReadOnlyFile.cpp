@@ -16,6 +16,7 @@
 #endif
 
 namespace tessarine::test {
+namespace fs = std::filesystem;
 namespace {
 
 bool OpensForWriting(const std::string& path) {
@@ -57,7 +58,6 @@ std::function<void()> Hold(const std::string&) { return {}; }
 }  // namespace
 
 ReadOnlyFile::ReadOnlyFile(std::string path) : path_(std::move(path)) {
-  namespace fs = std::filesystem;
   fs::permissions(ToFilePath(path_), fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
   if (OpensForWriting(path_)) release_ = Hold(path_);
 }
@@ -65,8 +65,7 @@ ReadOnlyFile::ReadOnlyFile(std::string path) : path_(std::move(path)) {
 ReadOnlyFile::~ReadOnlyFile() {
   if (release_) release_();
   std::error_code ignored;
-  std::filesystem::permissions(ToFilePath(path_),
-                               std::filesystem::perms::owner_read | std::filesystem::perms::owner_write, ignored);
+  fs::permissions(ToFilePath(path_), fs::perms::owner_read | fs::perms::owner_write, ignored);
 }
 
 bool ReadOnlyFile::works() const { return !OpensForWriting(path_); }

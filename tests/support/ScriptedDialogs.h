@@ -10,10 +10,9 @@
 
 namespace tessarine::test {
 
-// Dialogs that answer from queues and record every question, for tests that walk a
-// user's road with no window. A question with no queued answer gets the harmless one:
-// OK (or No), a cancelled input box, a cancelled file dialog, a program that is not found.
-// While the next question stands, `whileAsked` may do what another program does meanwhile.
+// Dialogs that answer from queues and record every question, for tests that walk a user's road with no window. A
+// question with no queued answer gets the harmless one: OK (or No), a cancelled input box, a cancelled file dialog, a
+// program that is not found. While the next question stands, `whileAsked` may do what another program does meanwhile.
 class ScriptedDialogs : public Dialogs {
  public:
   struct MessageShown {
@@ -40,7 +39,6 @@ class ScriptedDialogs : public Dialogs {
   std::vector<WindowEvent> windowEvents;
   std::vector<std::string> programsStarted;
 
-  // The texts of the messages shown so far, in order.
   std::vector<std::string> MessageTexts() const {
     std::vector<std::string> texts;
     for (const MessageShown& m : messages) texts.push_back(m.text);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <tuple>
 
 #include "support/FixtureRom.h"
 #include "text/Braille2Text.h"
@@ -10,18 +11,16 @@
 namespace tessarine {
 namespace {
 
-using test::FromHex;
 using test::ToHex;
 
-std::string Decode(std::string_view hex, bool japanese = false) { return DecodeGameText(FromHex(hex), japanese); }
+std::string Decode(std::string_view hex, bool japanese = false) { return DecodeGameText(test::FromHex(hex), japanese); }
 
 // Every form that the decoder prints is typed back to its byte, but in the rows where printing and
 // typing differ: "&" at 0x2B (typed at 0x2D), and 0x53 to 0x59, printed without their brackets.
 TEST(GameTextDecodeTest, PrintedFormsTypeBackToTheirBytes) {
   const std::map<int, const char*> differences = {{0x2B, "2D"},    {0x53, "CA C5"}, {0x54, "C7 C8"}, {0x55, "CA C9"},
                                                   {0x56, "C5 D9"}, {0x57, "BC C6"}, {0x58, "C9 BD"}, {0x59, "C5"}};
-  int forms = 0;
-  int japaneseForms = 0;  // the Japanese table, which no encoder reads: its forms are counted
+  int forms = 0, japaneseForms = 0;  // the Japanese table, which no encoder reads: its forms are counted
   for (int b = 0; b < 256; ++b) {
     const Bytes byte = {static_cast<std::uint8_t>(b)};
     japaneseForms += !DecodeGameText(byte, true).starts_with("&H");
@@ -32,17 +31,12 @@ TEST(GameTextDecodeTest, PrintedFormsTypeBackToTheirBytes) {
     EXPECT_EQ(ToHex(EncodeGameText(printed)), difference == differences.end() ? ToHex(byte) : difference->second)
         << printed;
   }
-  EXPECT_EQ(forms, 156);
-  EXPECT_EQ(japaneseForms, 158);
+  EXPECT_EQ(std::pair(forms, japaneseForms), std::pair(156, 158));
 }
 
 // Runs of bytes: no terminator, and the parameter after 0xFC and 0xFD.
 TEST(GameTextDecodeTest, DecodesRunsOfBytes) {
-  const struct {
-    const char* bytes;
-    bool japanese;
-    const char* text;
-  } cases[] = {
+  const std::tuple<const char*, bool, const char*> cases[] = {  // bytes, Japanese, text
       {"", false, ""}, {"FF C1", false, "\\xG"},  // 0xFF does not stop decoding
       {"BB 00 BC 20", false, "A Bî"},             // 0x00 is a blank, 0x20 is no space
       {"60 61", false, "&H60&H61"},               // no separator between hexadecimal forms
@@ -55,7 +49,7 @@ TEST(GameTextDecodeTest, DecodesRunsOfBytes) {
       {"0A A0 2B 2D 59 C5 B1 B2 B3 B4", false, "&H0A&HA0&&KK[\"]\"[']'"},
       {"80 7C 2C A0 42 43 92 93 47", true, " &H2C_djizuDJIDUbe"},  // the two halves are no shift of each other
   };
-  for (const auto& c : cases) EXPECT_EQ(Decode(c.bytes, c.japanese), c.text) << c.bytes;
+  for (const auto& [bytes, japanese, text] : cases) EXPECT_EQ(Decode(bytes, japanese), text) << bytes;
 }
 
 TEST(GameTextDecodeTest, CutsDecodedNames) {
@@ -72,11 +66,7 @@ TEST(GameTextDecodeTest, CutsDecodedNames) {
 // The three encoders side by side. Typed text crosses as UTF-8; the encoders count characters.
 TEST(TextEncodeTest, EncodesTypedText) {
   enum Codec { G, M, B };  // game text, a script message, braille
-  const struct {
-    Codec codec;
-    std::string_view text;
-    const char* bytes;
-  } cases[] = {
+  const std::tuple<Codec, std::string_view, const char*> cases[] = {
       {G, "", ""}, {G, "AB", "BB BC"}, {G, "AB\\x", "BB BC FF"}, {G, "A\\xB", "BB FF BC"},  // no terminator; FF is data
       {G, " ", "00"}, {G, "[PK]", "53"}, {G, "PK", "CA C5"}, {G, "[pk]", "00 E4 DF 00"},  // forms are case-sensitive
       {G, "[Lv]5", "34 A6"}, {G, "[L]v", "7B EA"}, {G, "[Ke]", "56"}, {G, "[K]e", "59 D9"}, {G, "K&", "C5 2D"},
@@ -100,11 +90,11 @@ TEST(TextEncodeTest, EncodesTypedText) {
       {B, "\r\n\r\n", "FE FE"}, {B, "\r", "00"}, {B, "A\nB\n\r", "01 00 05 00 00"},  // CR LF only
       {B, "[END]", "00 09 1B 0B 00"}, {B, "\\hZZ", "00 00 39 39"}, {B, "\xC3\xA9\xFF", "00 00"},
   };
-  for (const auto& c : cases) {
-    const Bytes bytes = c.codec == G   ? EncodeGameText(c.text)
-                        : c.codec == M ? EncodeMessageText(c.text)
-                                       : EncodeBrailleText(c.text);
-    EXPECT_EQ(ToHex(bytes), c.bytes) << "GMB"[c.codec] << ": " << c.text;
+  for (const auto& [codec, text, bytes] : cases) {
+    const Bytes encoded = codec == G   ? EncodeGameText(text)
+                          : codec == M ? EncodeMessageText(text)
+                                       : EncodeBrailleText(text);
+    EXPECT_EQ(ToHex(encoded), bytes) << "GMB"[codec] << ": " << text;
   }
 }
 
@@ -121,20 +111,15 @@ TEST(Braille2TextTest, CellsReadAndTypeAsTheirLetters) {
     EXPECT_EQ(ToHex(EncodeBrailleText(text)), ToHex({static_cast<std::uint8_t>(cell)})) << text;
   }
   EXPECT_EQ(readBack, 28);
-  const struct {
-    std::uint8_t cell;
-    const char* text;
-    const char* encoded;
-    bool stops;
-  } others[] = {
+  const std::tuple<std::uint8_t, const char*, const char*, bool> others[] = {  // cell, text, typed, a stop
       {0x04, ",", "00", false}, {0x02, "End", "09 00 00", true}, {0xFE, "\r\n", "FE", false},
       {0xFF, "", "", true},  // typed as "[End]"; "\h08" is typed for 0x08
       {0x08, "[&H8]", "00 00 0D 00 00", false}, {0xFD, "[&HFD]", "00 00 0D 07 0B 00", false},
   };
-  for (const auto& other : others) {
-    EXPECT_EQ(BrailleCellText(other.cell), other.text);
-    EXPECT_EQ(ToHex(EncodeBrailleText(other.text)), other.encoded) << other.text;
-    EXPECT_EQ(IsBrailleStop(other.cell), other.stops) << ToHex({other.cell});
+  for (const auto& [cell, text, encoded, stops] : others) {
+    EXPECT_EQ(BrailleCellText(cell), text);
+    EXPECT_EQ(ToHex(EncodeBrailleText(text)), encoded) << text;
+    EXPECT_EQ(IsBrailleStop(cell), stops) << ToHex({cell});
   }
 }
 
