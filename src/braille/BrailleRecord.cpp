@@ -34,7 +34,7 @@ BrailleRecord ReadBrailleRecord(RomImage& rom, RomOffset offset) {
   std::copy(header.begin(), header.end(), record.header.begin());
 
   // No offset reaches beyond 32 bits; what lies there reads as 0 like the bytes past the end.
-  const std::int64_t readable = std::min<std::int64_t>(length, std::int64_t{std::numeric_limits<RomOffset>::max()} + 1);
+  const std::int64_t readable = std::min<std::int64_t>(length, kLastRomOffset + 1);
   std::int64_t position = std::int64_t{offset} + kBrailleHeaderSize;
   for (;;) {
     Bytes block;

@@ -45,7 +45,7 @@ std::optional<Starters> ReadStarters(RomImage& rom, const GameIdentity& game) {
     if (!rom.Holds(balls[i], 2)) {
       throw Failure("The starters of this game lie at " + ToHexText(balls[0]) + ", " + ToHexText(balls[1]) + " and " +
                     ToHexText(balls[2]) + ", past the end of the file, which is " +
-                    ToHexText(static_cast<RomOffset>(std::min<std::int64_t>(rom.Length(), INT32_MAX))) +
+                    PlaceText(rom.Length()) +
                     " bytes long. No starter was read.");
     }
   }
@@ -112,8 +112,7 @@ void PressSave(Form2& form, const Form1& main, RomImage& rom, Dialogs& dialogs) 
   if (game == nullptr) return;
   RomWrite write(rom, main);
   write.From(form.filled,
-             "The lists hold no starters read from the ROM that is open now: they were filled before the last Open "
-             "ROM, or their last read failed. Press \"Reload\" to read the starters of the ROM that is open now.");
+             NotFilledFromOpenRom(form.filled, "Press \"Reload\" to read the starters of the ROM that is open now."));
   try {
     for (int i = 0; i < kBallCount; ++i) {
       Bytes word;

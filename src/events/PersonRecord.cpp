@@ -95,7 +95,7 @@ Bytes PersonRecord::ToBytes() const {
 std::optional<std::string> PersonRecordOutsideRom(const RomImage& rom, RomOffset offset) {
   if (rom.Holds(offset, PersonRecord::kSize)) return std::nullopt;
   return "The person record at " + ToHexText(offset) + " does not lie wholly inside the ROM, which is " +
-         ToHexText(static_cast<RomOffset>(std::min<std::int64_t>(rom.Length(), INT32_MAX))) + " bytes long.";
+         PlaceText(rom.Length()) + " bytes long.";
 }
 
 std::vector<std::string> MovementTypeTexts() {

@@ -1,10 +1,13 @@
 #include "forms/WriteRule.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <span>
 
 #include "forms/Dialogs.h"
 #include "forms/Form1.h"
+#include "rom/FilePath.h"
 #include "rom/GameProfile.h"
 #include "rom/HexField.h"
 #include "rom/RomImage.h"
@@ -12,10 +15,6 @@
 namespace tessarine {
 namespace {
 
-// A place or a length as hexadecimal text; a negative one, or one past a long, in decimal.
-std::string HexNumber(std::int64_t number) {
-  return number >= 0 && number <= INT32_MAX ? ToHexText(static_cast<std::int32_t>(number)) : std::to_string(number);
-}
 
 std::string FieldAndText(std::string_view field, std::string_view text) {
   return std::string(field) + ": \"" + std::string(text) + "\"";
@@ -73,7 +72,7 @@ std::vector<std::string> Runs(std::span<const WritePiece> pieces) {
   const std::vector<Run> runs = MergedRuns(pieces);
   std::vector<std::string> texts;
   for (const Run& run : runs) {
-    texts.push_back(Size(static_cast<std::size_t>(run.end - run.at)) + " at " + HexNumber(run.at) + " (" +
+    texts.push_back(Size(static_cast<std::size_t>(run.end - run.at)) + " at " + PlaceText(run.at) + " (" +
                     JoinNames(run.names) + ")");
   }
   return texts;
@@ -83,12 +82,12 @@ std::vector<std::string> Runs(std::span<const WritePiece> pieces) {
 // (the body)", "the last byte of the 2 bytes at &H169BB5 (Ball 1)".
 std::string PartOf(const WritePiece& piece, std::size_t count, bool first) {
   return std::string(first ? "the first " : "the last ") + (count == 1 ? "byte" : std::to_string(count)) + " of the " +
-         Size(piece.bytes.size()) + " at " + HexNumber(piece.at) + " (" + piece.name + ")";
+         Size(piece.bytes.size()) + " at " + PlaceText(piece.at) + " (" + piece.name + ")";
 }
 
 // Where a piece is, for a sentence: its field and text when a field placed it.
 std::string PieceAt(const WritePiece& piece) {
-  const std::string what = piece.name + ", " + Size(piece.bytes.size()) + " from " + HexNumber(piece.at);
+  const std::string what = piece.name + ", " + Size(piece.bytes.size()) + " from " + PlaceText(piece.at);
   return piece.field.empty() ? Capitalized(what) : FieldAndText(piece.field, piece.fieldText) + ": " + what;
 }
 
@@ -154,7 +153,7 @@ bool RomWrite::ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>
     }
     if (count == 0) continue;
     notFree += count;
-    taken.push_back("the " + Size(static_cast<std::size_t>(run.end - run.at)) + " at " + HexNumber(run.at));
+    taken.push_back("the " + Size(static_cast<std::size_t>(run.end - run.at)) + " at " + PlaceText(run.at));
   }
   if (notFree > 0) {
     std::vector<std::string> written;
@@ -203,11 +202,29 @@ void RomWrite::CheckFile(const std::vector<std::string>& alsoNotWritten) const {
 
 std::string RomWrite::NowAtPath() const {
   // What was written went into the file as it was opened: a file put at its path since holds
-  // none of it, and another program that wrote into it may have written over it.
+  // none of it, one moved or removed took it along, and another program that wrote into the
+  // file or cut it short may have written over it or cut it off.
   if (!rom_.IsOpen()) return {};
-  if (!rom_.StillAtItsPath()) return "holds none of them";
+  if (!rom_.StillAtItsPath()) {
+    std::error_code unknown;
+    bool there = false;
+    try {
+      there = std::filesystem::exists(ToFilePath(rom_.romPath()), unknown);
+    } catch (const std::filesystem::filesystem_error&) {
+      // a path that cannot be looked at names no file
+    }
+    return there ? "the file now at that path holds none of them"
+                 : "no file is at that path now: another program moved or removed the file, and them with it";
+  }
   if (ReadGameIdentity(rom_) != IdentityOf(main_)) {
-    return "may not hold them: the other program may have written over them";
+    return "the file at that path may not hold them: another program has written into it since";
+  }
+  std::int64_t end = 0;
+  for (std::size_t i = 0; i < written_; ++i) end = std::max(end, EndOf(pieces_[i]));
+  if (reached_ > 0) end = std::max(end, pieces_[written_].at + static_cast<std::int64_t>(reached_));
+  if (rom_.Length() < end) {
+    return "the file at that path now ends at " + PlaceText(rom_.Length()) +
+           ": another program cut it short, and it holds at most what of them lies before that end";
   }
   return {};
 }
@@ -232,7 +249,7 @@ void RomWrite::Check(const std::vector<std::string>& alsoNotWritten) const {
                    ", the last offset of a ROM.");
     }
     if (!rom_.Holds(piece.at, length)) {
-      throw refuse(PieceAt(piece) + ", would run past the end of the ROM, which is " + HexNumber(rom_.Length()) +
+      throw refuse(PieceAt(piece) + ", would run past the end of the ROM, which is " + PlaceText(rom_.Length()) +
                    " bytes long.");
     }
   }
@@ -288,13 +305,12 @@ Failure RomWrite::Stopped(const Failure& failure, const std::vector<std::string>
   const std::vector<std::string> rest = Runs(std::span<const WritePiece>(pieces_).subspan(next));
   notWritten.insert(notWritten.end(), rest.begin(), rest.end());
   // A piece expected has no length yet.
-  for (const WritePiece& piece : expected_) notWritten.push_back(piece.name + " at " + HexNumber(piece.at));
+  for (const WritePiece& piece : expected_) notWritten.push_back(piece.name + " at " + PlaceText(piece.at));
   notWritten.insert(notWritten.end(), alsoNotWritten.begin(), alsoNotWritten.end());
   const std::string nowAtPath = NowAtPath();
   const std::string written = nowAtPath.empty() ? "Written before it stopped: " + WrittenText() + "."
                                                 : "Written before it stopped, into the file as it was opened: " +
-                                                      WrittenText() + "; the file now at that path " +
-                                                      nowAtPath + ".";
+                                                      WrittenText() + "; " + nowAtPath + ".";
   return failure.Then(written + (notWritten.empty() ? "" : " Not written: " + JoinNames(notWritten) + "."));
 }
 

@@ -113,7 +113,7 @@ class RomWrite {
   // piece whose write the system refused part way) and what was not: the rest of that piece,
   // the pieces added and not yet written, those expected, and `alsoNotWritten`, which the
   // action had still to work out. Bytes written into a file that another program has since
-  // replaced or written into are said to be in the file as it was opened (NowAtPath).
+  // changed are said to be in the file as it was opened (NowAtPath).
   [[nodiscard]] Failure Stopped(const Failure& failure, const std::vector<std::string>& alsoNotWritten = {}) const;
 
   // What the action wrote, as "83 bytes at &H700000 (the body and the declined branch)";
@@ -124,8 +124,9 @@ class RomWrite {
   // The part of the rule that looks at the file: open, writable, at its path, with its header.
   void CheckFile(const std::vector<std::string>& alsoNotWritten) const;
   // What the file at the path holds of the bytes written: "" when it is the file they went
-  // into, as it was opened; otherwise what another program that replaced it or wrote into it
-  // since has left of them ("holds none of them").
+  // into, as it was opened; otherwise what another program that replaced, moved, removed,
+  // wrote into or cut short the file since has left of them ("the file now at that path
+  // holds none of them").
   std::string NowAtPath() const;
 
   RomImage& rom_;

@@ -131,6 +131,10 @@ std::string ToHexText(std::uint8_t byte) { return "&H" + HexDigits(byte); }
 std::string ToHexText(std::int16_t word) { return "&H" + HexDigits(static_cast<std::uint16_t>(word)); }
 std::string ToHexText(std::int32_t value) { return "&H" + HexDigits(static_cast<std::uint32_t>(value)); }
 
+std::string PlaceText(std::int64_t place) {
+  return place >= 0 && place <= INT32_MAX ? ToHexText(static_cast<std::int32_t>(place)) : std::to_string(place);
+}
+
 std::int32_t ParseOffset(std::string_view text, std::string_view field) {
   return static_cast<std::int32_t>(ParseOrFail(text, field, kOffsetWidth));
 }

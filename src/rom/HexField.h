@@ -18,6 +18,9 @@ std::string ToHexText(std::int16_t word);
 std::string ToHexText(std::int32_t value);
 template <typename T>
 std::string ToHexText(T) = delete;  // no silent widening from other integer types
+// A place in a file or a length, as sentences give it: ToHexText where a RomOffset holds it,
+// in decimal where none does (below 0, or past &H7FFFFFFF in a file that long).
+std::string PlaceText(std::int64_t place);
 
 // The one reader and the one writer of hexadecimal digits.
 //

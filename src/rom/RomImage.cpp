@@ -24,10 +24,6 @@
 namespace tessarine {
 namespace {
 
-std::string HexPosition(std::int64_t position) {
-  return position <= INT32_MAX ? ToHexText(static_cast<std::int32_t>(position)) : std::to_string(position);
-}
-
 std::string SystemReason(int error) { return error != 0 ? std::strerror(error) : "unknown error"; }
 
 #ifdef _WIN32
@@ -231,10 +227,10 @@ std::int32_t RomImage::ReadLong() { return static_cast<std::int32_t>(ReadLittleE
 void RomImage::WriteBytes(std::span<const std::uint8_t> bytes) {
   lastWriteReached_ = 0;
   RequireWritable();
-  const std::string where = " at " + HexPosition(position_) + " of \"" + romPath_ + "\"";
+  const std::string where = " at " + PlaceText(position_) + " of \"" + romPath_ + "\"";
   if (!Holds(position_, static_cast<std::int64_t>(bytes.size()))) {
     throw Failure("Nothing was written" + where + ": " + std::to_string(bytes.size()) +
-                  " bytes there would run past the end of the ROM, which is " + HexPosition(Length()) +
+                  " bytes there would run past the end of the ROM, which is " + PlaceText(Length()) +
                   " bytes long.");
   }
   errno = 0;

@@ -20,7 +20,7 @@ namespace {
 // the person is told why, once for the opening.
 void TellUnknownTables(Session& session, Dialogs& dialogs) {
   if (session.rom.IsOpen() && !session.form1.tables.Current(session.form1)) {
-    dialogs.Message("The Held Item list is empty. " + std::string(kNoTablesOfThisRom));
+    dialogs.Message("The Pokemon and Held Item lists are empty. " + std::string(kNoTablesOfThisRom));
   }
 }
 

@@ -64,9 +64,8 @@ TEST(Form2Test, ReloadShowsAnotherToolsWriteAndSaveRefusesListsOfTheRomBefore) {
   s.Open(s.fixture->path());
   const test::ByteOracle oracle(s.fixture->path());
   EXPECT_EQ(test::FailureOf([&] { PressSave(form, s.form, s.rom, s.dialogs); }),
-            "The lists hold no starters read from the ROM that is open now: they were filled before the last Open "
-            "ROM, or their last read failed. Press \"Reload\" to read the starters of the ROM that is open now. "
-            "Nothing was written.");
+            "This window was filled before the last Open ROM, so what it holds may belong to the ROM opened before. "
+            "Press \"Reload\" to read the starters of the ROM that is open now. Nothing was written.");
   EXPECT_THAT(oracle.Changes(), IsEmpty());
 }
 

@@ -89,6 +89,18 @@ void EventOnRuby(Desk& d) {
   d.form.spritetxt.text = "&H50";
 }
 
+// Form4's script written at &H700000, its message typed for &H38EE50, over data; while the
+// free-space question that follows stands (answered No), another program does `meanwhile`.
+std::function<void(Desk&)> ScriptThen(void (*meanwhile)(Desk&)) {
+  return [=](Desk& d) {
+    d.Open(d.ruby, WindowName::Form4);
+    SetCombo3Selection(d.session.form4, 5);
+    d.session.form4.Text3.text = "&H700000", d.session.form4.Text12.text = "&H38EE50";
+    d.dialogs.whileAsked = [&d, meanwhile] { d.dialogs.whileAsked = [&d, meanwhile] { meanwhile(d); }; };
+  };
+}
+void InsertMessage(Desk& d) { InsertWildBattle(d.session.form4, d.form, d.rom, d.dialogs); }
+
 const Road kRoads[] = {
     {"a rename keeps the words of the event picked before it",
      [](Desk& d) {
@@ -184,16 +196,12 @@ const Road kRoads[] = {
      },
      SaveStarters, {}, "is no longer the file that was opened"},
     {"a script written before a file was renamed over the open one is said to be in the file as it was opened",
-     [](Desk& d) {
-       d.Open(d.ruby, WindowName::Form4);
-       SetCombo3Selection(d.session.form4, 5);
-       d.session.form4.Text3.text = "&H700000", d.session.form4.Text12.text = "&H38EE50";  // the message over data
-       // While the free-space question that follows the message stands, answered No.
-       d.dialogs.whileAsked = [&d] { d.dialogs.whileAsked = [&d] { d.Put(d.ruby, true); }; };
-     },
-     [](Desk& d) { InsertWildBattle(d.session.form4, d.form, d.rom, d.dialogs); }, {},
+     ScriptThen([](Desk& d) { d.Put(d.ruby, true); }), InsertMessage, {},
      "Written before it stopped, into the file as it was opened: 20 bytes at &H700000 (the script); the file now at "
      "that path holds none of them. Not written: 2 bytes at &H38EE50 (the message)."},
+    {"a script written before the open file was cut short is said to be in the file as it was opened",
+     ScriptThen([](Desk& d) { std::filesystem::resize_file(ToFilePath(d.path), 0x600000); }), InsertMessage,
+     {{0x600000, 0xA00000}}, "20 bytes at &H700000 (the script); the file at that path now ends at &H600000"},
     {"a read-only ROM is refused before any question",
      [](Desk& d) {
        const test::ReadOnlyFile readOnly(d.path);
@@ -233,7 +241,7 @@ const Road kRoads[] = {
        EXPECT_EQ(d.session.form2.Combo1.text, "");
        d.Put(d.ruby);  // the whole ROM again, in place: the same file and game
      },
-     SaveStarters, {}, "or their last read failed"},
+     SaveStarters, {}, "its last read failed. Press \"Reload\""},
 };
 
 // Actions that write in steps, stopped by the system part way through: after a piece, or inside one.
