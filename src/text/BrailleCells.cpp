@@ -32,7 +32,8 @@ std::string BrailleCellText(std::uint8_t cell) {
   for (const Cell& c : kCells) {
     if (c.byte == cell) return c.text;
   }
-  return "[" + ToHexText(cell) + "]";
+  std::string unknown = "[";  // built in steps: GCC 12 warns falsely of "[" + a string
+  return unknown.append(ToHexText(cell)).append("]");
 }
 
 }  // namespace tessarine
