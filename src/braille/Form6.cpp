@@ -81,8 +81,9 @@ std::string DoubledLineBreaks(std::string_view text) {
 void PressInsert(Form6& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
   RomWrite write(rom, main);
   // The record and the script that shows it run as one: neither may lie over the other.
-  write.From(form.filled, NotFilledFromOpenRom(form.filled, "Press \"Load\" to read the record at the Braille Offset from the "
-                                               "ROM that is open now, or close the window and open it again."))
+  write
+      .FromWindow(form.filled, "Press \"Load\" to read the record at the Braille Offset from the ROM that is open now, "
+                               "or close the window and open it again.")
       .KeepApart()
       .Check();  // a window that may not write says so before the question
   if (dialogs.Message("Are you sure that you wan't to insert?", MessageButtons::YesNo, "Braille Inserted.") !=

@@ -111,8 +111,7 @@ void PressSave(Form2& form, const Form1& main, RomImage& rom, Dialogs& dialogs) 
   const GameProfile* game = FindGameProfile(IdentityOf(main));
   if (game == nullptr) return;
   RomWrite write(rom, main);
-  write.From(form.filled,
-             NotFilledFromOpenRom(form.filled, "Press \"Reload\" to read the starters of the ROM that is open now."));
+  write.FromWindow(form.filled, "Press \"Reload\" to read the starters of the ROM that is open now.");
   try {
     for (int i = 0; i < kBallCount; ++i) {
       Bytes word;

@@ -83,8 +83,7 @@ std::optional<FlyRecord> WriteFlyPosition(RomImage& rom, const Form1& main, cons
   if (!table) return std::nullopt;
   const RomOffset offset = FlyRecordOffset(*table, index);
   RomWrite write(rom, main);
-  write.From(filled,
-             NotFilledFromOpenRom(filled, "Pick a location, or press \"Load\", to read its record from the ROM that is open now."));
+  write.FromWindow(filled, "Pick a location, or press \"Load\", to read its record from the ROM that is open now.");
   Bytes bytes;
   try {
     bytes = ReadWholeRecord(rom, offset, index, "saved");

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <system_error>
 #include <span>
 
 #include "forms/Dialogs.h"
@@ -14,7 +13,6 @@
 
 namespace tessarine {
 namespace {
-
 
 std::string FieldAndText(std::string_view field, std::string_view text) {
   return std::string(field) + ": \"" + std::string(text) + "\"";
@@ -102,17 +100,18 @@ RomOffset ParseInsertOffset(std::string_view text, std::string_view field, std::
   throw Failure(FieldAndText(field, text) + where + " " + std::string(hint));
 }
 
-std::string NotFilledFromOpenRom(const FilledAt& filled, std::string_view again) {
-  return (filled.opening ? "This window was filled before the last Open ROM, so what it holds may belong to the ROM "
-                           "opened before. "
-                         : "This window holds nothing read from the ROM that is open now: its last read failed. ") +
-         std::string(again);
-}
-
 RomWrite& RomWrite::From(const FilledAt& filled, std::string_view refusal) {
   filled_ = &filled;
   refusal_ = refusal;
   return *this;
+}
+
+RomWrite& RomWrite::FromWindow(const FilledAt& filled, std::string_view again) {
+  return From(filled, (filled.opening ? "This window was filled before the last Open ROM, so what it holds may "
+                                        "belong to the ROM opened before. "
+                                      : "This window holds nothing read from the ROM that is open now: its last read "
+                                        "failed. ") +
+                          std::string(again));
 }
 
 RomWrite& RomWrite::Add(WritePiece piece) {
@@ -162,7 +161,8 @@ bool RomWrite::ConfirmFreeSpace(Dialogs& dialogs, const std::vector<std::string>
     }
     const bool one = taken.size() == 1 && taken[0].starts_with("the 1 byte ");
     const std::string question = Capitalized(JoinNames(taken)) + (one ? " is" : " are") + " not free space: " +
-                                 std::to_string(notFree) + (notFree == 1 ? " of them is not FF" : " of them are not FF") +
+                                 std::to_string(notFree) +
+                                 (notFree == 1 ? " of them is not FF" : " of them are not FF") +
                                  (written.empty() ? "" : ", among them " + JoinNames(written) + " written just now") +
                                  ". Write over them?";
     MessageAnswer answer = MessageAnswer::No;
@@ -206,15 +206,9 @@ std::string RomWrite::NowAtPath() const {
   // file or cut it short may have written over it or cut it off.
   if (!rom_.IsOpen()) return {};
   if (!rom_.StillAtItsPath()) {
-    std::error_code unknown;
-    bool there = false;
-    try {
-      there = std::filesystem::exists(ToFilePath(rom_.romPath()), unknown);
-    } catch (const std::filesystem::filesystem_error&) {
-      // a path that cannot be looked at names no file
-    }
-    return there ? "the file now at that path holds none of them"
-                 : "no file is at that path now: another program moved or removed the file, and them with it";
+    return std::filesystem::exists(StatusAt(rom_.romPath()))
+               ? "the file now at that path holds none of them"
+               : "no file is at that path now: another program moved or removed the file, and them with it";
   }
   if (ReadGameIdentity(rom_) != IdentityOf(main_)) {
     return "the file at that path may not hold them: another program has written into it since";

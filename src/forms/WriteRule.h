@@ -23,11 +23,6 @@ class RomImage;
 // No tool writes there: an offset field that still holds its initial "&H000000" would.
 inline constexpr RomOffset kCartridgeHeaderEnd = 0xC0;
 
-// The refusal of a window that holds nothing read from the ROM that is open now: it was filled
-// before the last Open ROM, or a read that failed emptied it (`filled` tells which); `again`
-// says how to fill it from the ROM that is open now.
-std::string NotFilledFromOpenRom(const FilledAt& filled, std::string_view again);
-
 // ParseOffset of an offset field's text, refused where it lies inside the cartridge header
 // ("&H000000", "0" and "&H0" alike) or before the start of the ROM. The Failure names the
 // field and its text, and ends with `hint`.
@@ -56,6 +51,10 @@ class RomWrite {
   // The values to write come from what was filled after some Open ROM (FilledAt); when that
   // was not the last Open ROM, the action may not write and `refusal` says why.
   RomWrite& From(const FilledAt& filled, std::string_view refusal);
+  // From, for a tool window: its refusal says that the window holds nothing read from the ROM
+  // that is open now, because it was filled before the last Open ROM or a read that failed
+  // emptied it (`filled` tells which), and ends with `again`, how to fill it from that ROM.
+  RomWrite& FromWindow(const FilledAt& filled, std::string_view again);
   RomWrite& Add(WritePiece piece);
   // A piece that the action writes later, once it knows its bytes (a message still to be
   // typed): its place is checked with the others, for as many bytes as `piece` holds, the

@@ -17,4 +17,8 @@ namespace tessarine {
 std::filesystem::path ToFilePath(std::string_view utf8);
 std::string ToPathText(const std::filesystem::path& path);
 
+// What the path names, as the system tells it: not_found also where the path cannot be looked
+// at (a text that is no path, a folder that may not be read).
+std::filesystem::file_status StatusAt(std::string_view utf8);
+
 }  // namespace tessarine

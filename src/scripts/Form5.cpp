@@ -69,8 +69,8 @@ void SetCombo2Selection(Form5& form, int index) {
 
 void InsertGivePokemon(Form5& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
   RomWrite write(rom, main);
-  write.From(form.filled, NotFilledFromOpenRom(form.filled, "Close the form and open it again from the Tools menu to take the "
-                                               "lists of the ROM that is open now."));
+  write.FromWindow(form.filled, "Close the form and open it again from the Tools menu to take the lists of the ROM "
+                                "that is open now.");
   const bool gameReady = form.Check1.checked;
   std::string family;
   std::optional<std::string> typed;
@@ -112,16 +112,16 @@ void InsertGivePokemon(Form5& form, const Form1& main, RomImage& rom, Dialogs& d
 }
 
 void PressFindScriptSpace(Form5& form, RomImage& rom, Dialogs& dialogs) {
-  const std::optional<std::string> question = MessageForFreeSpace(form.Text3, kScriptField, form.Text12, dialogs,
-                                                                  kGiveMessageTitle, kGiveMessagePrompt, form.keptMessage);
+  const std::optional<std::string> question = MessageForFreeSpace(
+      form.Text3, kScriptField, form.Text12, dialogs, kGiveMessageTitle, kGiveMessagePrompt, form.keptMessage);
   if (!question) return;
   PressFindFreeSpace(form.Text3, kScriptField, "the script", BlockLength(form), &form.Text12,
                      std::ssize(BuilderMessageBytes(form.Check1, *question)), rom, dialogs);
 }
 
 void PressFindTextSpace(Form5& form, RomImage& rom, Dialogs& dialogs) {
-  const std::optional<std::string> typed = MessageForFreeSpace(form.Text12, kTextField, form.Text12, dialogs,
-                                                               kGiveMessageTitle, kGiveMessagePrompt, form.keptMessage);
+  const std::optional<std::string> typed = MessageForFreeSpace(
+      form.Text12, kTextField, form.Text12, dialogs, kGiveMessageTitle, kGiveMessagePrompt, form.keptMessage);
   if (!typed) return;
   PressFindFreeSpace(form.Text12, kTextField, kQuestion, std::ssize(BuilderMessageBytes(form.Check1, *typed)),
                      &form.Text3, BlockLength(form), rom, dialogs);

@@ -112,7 +112,7 @@ void PickTypedSpecies(WildBattleForm& form, Dialogs& dialogs) {
 
 void InsertWildBattle(Form3& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
   RomWrite write(rom, main);
-  write.From(form.filled, NotFilledFromOpenRom(form.filled, kLoadAgain));
+  write.FromWindow(form.filled, kLoadAgain);
   try {
     const Battle b = ParseBattle(form, form.Text1);
     write.Add({std::string(kScriptPiece), ParseInsertOffset(form.Text3.text, kScriptField),
@@ -128,7 +128,7 @@ void InsertWildBattle(Form3& form, const Form1& main, RomImage& rom, Dialogs& di
 
 void InsertWildBattle(Form4& form, const Form1& main, RomImage& rom, Dialogs& dialogs) {
   RomWrite write(rom, main);
-  write.From(form.filled, NotFilledFromOpenRom(form.filled, kLoadAgain));
+  write.FromWindow(form.filled, kLoadAgain);
   const bool gameReady = form.Check1.checked;
   std::optional<std::string> typed;
   if (gameReady) {
@@ -164,16 +164,16 @@ void PressFindScriptSpace(Form3& form, RomImage& rom, Dialogs& dialogs) {
 }
 
 void PressFindScriptSpace(Form4& form, RomImage& rom, Dialogs& dialogs) {
-  const std::optional<std::string> message = MessageForFreeSpace(form.Text3, kScriptField, form.Text12, dialogs,
-                                                                 kWildMessageTitle, kWildMessagePrompt, form.keptMessage);
+  const std::optional<std::string> message = MessageForFreeSpace(
+      form.Text3, kScriptField, form.Text12, dialogs, kWildMessageTitle, kWildMessagePrompt, form.keptMessage);
   if (!message) return;
   PressFindFreeSpace(form.Text3, kScriptField, kScriptPiece, ScriptLength(form), &form.Text12,
                      std::ssize(BuilderMessageBytes(form.Check1, *message)), rom, dialogs);
 }
 
 void PressFindTextSpace(Form4& form, RomImage& rom, Dialogs& dialogs) {
-  const std::optional<std::string> typed = MessageForFreeSpace(form.Text12, kTextField, form.Text12, dialogs,
-                                                               kWildMessageTitle, kWildMessagePrompt, form.keptMessage);
+  const std::optional<std::string> typed = MessageForFreeSpace(
+      form.Text12, kTextField, form.Text12, dialogs, kWildMessageTitle, kWildMessagePrompt, form.keptMessage);
   if (!typed) return;
   PressFindFreeSpace(form.Text12, kTextField, "the message", std::ssize(BuilderMessageBytes(form.Check1, *typed)),
                      &form.Text3, ScriptLength(form), rom, dialogs);

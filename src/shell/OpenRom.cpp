@@ -2,7 +2,6 @@
 
 #include <cctype>
 #include <filesystem>
-#include <system_error>
 
 #include "events/EventSelection.h"
 #include "forms/Dialogs.h"
@@ -133,15 +132,6 @@ bool NamesAGbaFile(const std::string& path) {
   return end == ".gba";
 }
 
-bool IsFolder(const std::string& path) {
-  std::error_code unknown;  // a path that cannot be looked at is no folder; opening it will tell
-  try {
-    return std::filesystem::is_directory(ToFilePath(path), unknown);
-  } catch (const std::filesystem::filesystem_error&) {
-    return false;
-  }
-}
-
 // Why a drop opens nothing, or "" when it is one .gba file.
 std::string RefusalOf(const Dropped& dropped) {
   std::vector<std::string> all = dropped.paths;
@@ -158,7 +148,8 @@ std::string RefusalOf(const Dropped& dropped) {
     return std::to_string(all.size()) + " things were dropped: " + names + ".";
   }
   if (dropped.paths.empty()) return Quoted(all[0], false) + " is not a file on this computer.";
-  if (IsFolder(all[0])) return Quoted(all[0], true) + " is a folder.";
+  // A path that cannot be looked at is no folder: opening it will tell.
+  if (std::filesystem::is_directory(StatusAt(all[0]))) return Quoted(all[0], true) + " is a folder.";
   if (!NamesAGbaFile(all[0])) return Quoted(all[0], true) + " is not a .gba file.";
   return "";
 }
